@@ -1,0 +1,59 @@
+# Korvath 3: everything a newcomer needs on a fresh Debian 12 machine.
+#   make run    install what is missing, build, and analyse the bundled examples
+#   make test   install what is missing, build, and run every test (also under the sanitizers)
+#   make bench  time the analysis and the project files
+
+PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
+            nlohmann-json3-dev libcli11-dev
+EXAMPLES := $(wildcard examples/*.kvt)
+CLI := build/bin/korvath3-cli
+
+SUDO := $(shell [ "$$(id -u)" = 0 ] && echo "" || (command -v sudo >/dev/null && echo "sudo -n"))
+
+.PHONY: all deps configure build run test test-asan bench format clean
+
+all: build
+
+# Installs only the Debian packages that are missing.
+deps:
+	@missing=$$(for p in $(PACKAGES); do \
+	    dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q 'install ok installed' || echo $$p; \
+	  done); \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing missing packages:" $$missing; \
+	  if [ "$$(id -u)" = 0 ] || sudo -n true 2>/dev/null; then \
+	    $(SUDO) apt-get update -qq && \
+	    DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq --no-install-recommends $$missing; \
+	  else \
+	    echo "Please run: sudo apt-get update && sudo apt-get install -y $$missing"; exit 1; \
+	  fi; \
+	fi
+
+configure: deps
+	cmake --preset dev
+
+build: configure
+	cmake --build --preset dev
+
+run: build
+	@for project in $(EXAMPLES); do \
+	  $(CLI) analyze "$$project" || exit $$?; echo; \
+	done
+
+test: build test-asan
+	ctest --preset dev
+
+# The core and its tests once more under AddressSanitizer and UndefinedBehaviorSanitizer.
+test-asan: deps
+	cmake --preset asan
+	cmake --build --preset asan
+	ctest --preset asan
+
+bench: build
+	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+
+format:
+	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+clean:
+	rm -rf build build-asan

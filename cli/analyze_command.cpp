@@ -1,0 +1,74 @@
+#include "cli/analyze_command.h"
+
+#include "cli/exit_status.h"
+#include "cli/project_loading.h"
+#include "cli/record_json.h"
+#include "cli/results_summary.h"
+#include "engine/analysis_run.h"
+#include "engine/tendon_size.h"
+
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <ostream>
+
+namespace {
+
+// A fault met before the first stage, while the record is made ready (the diameter of a custom
+// tendon), is reported as stage 0.
+constexpr int BeforeFirstStage = 0;
+
+struct RunOutcome {
+    std::optional<FaultKind> faultKind;
+    int faultStage = 0;
+};
+
+RunOutcome analyse(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results) {
+    try {
+        ApplyTendonSize(record);
+    } catch (const ArithmeticFault& fault) {
+        return {fault.kind, BeforeFirstStage};
+    }
+    try {
+        RunDesignEngine(settings, record, results);
+    } catch (const EngineFault& fault) {
+        return {fault.kind(), fault.stage()};
+    }
+    return {};
+}
+
+} // namespace
+
+int RunAnalyzeCommand(const AnalyzeOptions& options, std::ostream& out, std::ostream& err) {
+    std::optional<LoadedProject> loaded = LoadProject(options.project, err);
+    if (!loaded) {
+        return ExitFileError;
+    }
+    DesignRecord& record = loaded->record;
+    ResultsRecord results;
+    const RunOutcome outcome = analyse(options.settings, record, results);
+
+    if (options.json) {
+        nlohmann::ordered_json document;
+        document["version"] = loaded->version;
+        if (outcome.faultKind) {
+            document["fault"] = {{"kind", FaultKindName(*outcome.faultKind)},
+                                 {"stage", outcome.faultStage}};
+        } else {
+            document["fault"] = nullptr;
+        }
+        document["record"] = DesignRecordJson(record);
+        // Results of a run that faulted are incomplete and are not shown.
+        document["results"] =
+            outcome.faultKind ? nlohmann::ordered_json(nullptr) : ResultsRecordJson(results);
+        out << document.dump(2) << '\n';
+    } else if (outcome.faultKind) {
+        err << "korvath3-cli: the analysis of " << options.project.string()
+            << " ended in a fault: " << FaultKindName(*outcome.faultKind) << " in stage "
+            << outcome.faultStage << " (" << AnalysisStageName(outcome.faultStage)
+            << "). No results are given.\n";
+    } else {
+        PrintResultsSummary(options.project, loaded->version, options.settings, record, results,
+                            out);
+    }
+    return outcome.faultKind ? ExitEngineFault : ExitAnalysed;
+}

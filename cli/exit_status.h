@@ -1,0 +1,9 @@
+#pragma once
+
+// What the command line's exit status tells a batch script.
+enum ExitStatus : int {
+    ExitAnalysed = 0,
+    ExitBadUsage = 1,
+    ExitFileError = 2,
+    ExitEngineFault = 3,
+};

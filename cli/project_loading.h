@@ -1,0 +1,17 @@
+#pragma once
+
+#include "engine/design_record.h"
+
+#include <filesystem>
+#include <iosfwd>
+#include <optional>
+
+struct LoadedProject {
+    DesignRecord record;
+    int version = 0;
+};
+
+// Reads a whole project over the record a new project starts from, so that fields an older file
+// lacks take their defaults. Notices of an older version and a file error, with its number and
+// description, are written to `err`; an error gives nothing.
+std::optional<LoadedProject> LoadProject(const std::filesystem::path& path, std::ostream& err);

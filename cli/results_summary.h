@@ -1,0 +1,13 @@
+#pragma once
+
+#include "engine/design_record.h"
+#include "engine/results_record.h"
+
+#include <filesystem>
+#include <iosfwd>
+
+// The results an engineer scans after a run, grouped by stage, aligned, with units: the short
+// and long directions side by side.
+void PrintResultsSummary(const std::filesystem::path& project, int version,
+                         const EngineSettings& settings, const DesignRecord& record,
+                         const ResultsRecord& results, std::ostream& out);

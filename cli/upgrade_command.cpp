@@ -1,0 +1,24 @@
+#include "cli/upgrade_command.h"
+
+#include "cli/exit_status.h"
+#include "cli/project_loading.h"
+#include "storage/design_file.h"
+#include "storage/file_error.h"
+
+#include <ostream>
+
+int RunUpgradeCommand(const std::filesystem::path& input, const std::filesystem::path& output,
+                      std::ostream& err) {
+    const std::optional<LoadedProject> loaded = LoadProject(input, err);
+    if (!loaded) {
+        return ExitFileError;
+    }
+    try {
+        WriteDesignFile(output, AllSections, loaded->record);
+    } catch (const FileError& error) {
+        err << "korvath3-cli: Error Saving File - " << error.number() << ": " << error.description()
+            << " (" << output.string() << ")\n";
+        return ExitFileError;
+    }
+    return ExitAnalysed;
+}

@@ -1,0 +1,19 @@
+#include "common/date_text.h"
+
+#include <array>
+#include <ctime>
+
+std::string LongDateText(int year, int month, int day) {
+    static constexpr std::array<const char*, 12> months = {
+        "January", "February", "March",     "April",   "May",      "June",
+        "July",    "August",   "September", "October", "November", "December"};
+    const char* name = (month >= 1 && month <= 12) ? months[month - 1] : "";
+    return std::string(name) + " " + std::to_string(day) + ", " + std::to_string(year);
+}
+
+std::string TodayLongDateText() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return LongDateText(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
+}

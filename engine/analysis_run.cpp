@@ -1,0 +1,63 @@
+#include "engine/analysis_run.h"
+
+#include "engine/analysis_spacing.h"
+#include "engine/equivalent_depth.h"
+#include "engine/prestress.h"
+#include "engine/section_properties.h"
+#include "engine/soil_bearing.h"
+
+namespace {
+
+// Runs one stage and gives any arithmetic fault the stage's number.
+template <typename Work> void runStage(AnalysisStage stage, Work&& work) {
+    try {
+        work();
+    } catch (const ArithmeticFault& fault) {
+        throw EngineFault(fault.kind, static_cast<int>(stage));
+    }
+}
+
+} // namespace
+
+std::string AnalysisStageName(int stage) {
+    switch (stage) {
+    case 0:
+        return "tendon size";
+    case 1:
+        return "allowable stresses and section properties";
+    case 2:
+        return "equivalent beam depths";
+    case 3:
+        return "soil bearing";
+    case 4:
+        return "prestress";
+    case 5:
+        return "analysis beam spacing";
+    case 6:
+        return "expansive soil moments, stiffness and shear";
+    case 7:
+        return "cracked section capacity";
+    case 8:
+        return "compressible soil";
+    case 9:
+        return "tendon totals and spacing";
+    case 10:
+        return "uniform thickness foundation";
+    case 11:
+        return "line load";
+    default:
+        return "unknown stage";
+    }
+}
+
+void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results) {
+    runStage(AnalysisStage::AllowablesAndSections,
+             [&] { ComputeAllowablesAndSections(record, results); });
+    runStage(AnalysisStage::EquivalentDepths, [&] {
+        ComputeEquivalentDepths(record, results);
+        ComputeEquivalentSections(record, results);
+    });
+    runStage(AnalysisStage::SoilBearing, [&] { ComputeSoilBearing(settings, record, results); });
+    runStage(AnalysisStage::Prestress, [&] { ComputePrestress(record, results); });
+    runStage(AnalysisStage::AnalysisSpacing, [&] { ComputeAnalysisSpacing(record, results); });
+}

@@ -1,0 +1,11 @@
+#include "common/date_text.h"
+
+#include <gtest/gtest.h>
+
+TEST(LongDateText, MonthInFullDayWithoutLeadingZeroFourDigitYear) {
+    EXPECT_EQ(LongDateText(2026, 11, 23), "November 23, 2026");
+    EXPECT_EQ(LongDateText(2007, 1, 5), "January 5, 2007");
+    EXPECT_EQ(LongDateText(1999, 12, 31), "December 31, 1999");
+    const std::string today = TodayLongDateText();
+    EXPECT_NE(today.find(", 20"), std::string::npos) << today;
+}
