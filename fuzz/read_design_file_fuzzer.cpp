@@ -7,32 +7,27 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <unistd.h>
 
-namespace {
-const std::filesystem::path& InputPath() {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const std::filesystem::path path =
         std::filesystem::temp_directory_path() / ("k3-fuzz-" + std::to_string(::getpid()) + ".kvt");
-    return path;
-}
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     {
-        std::ofstream out(InputPath(), std::ios::binary | std::ios::trunc);
+        std::ofstream out(path, std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     }
     const DesignRecord defaults;
     for (int selector : {10, 0, 1, 2, 3, 4, 5, 6}) {
         DesignRecord record;
         try {
-            ReadDesignFile(InputPath(), selector, record, defaults, [](const OldVersionNotice&) {});
+            ReadDesignFile(path, selector, record, defaults, [](const OldVersionNotice&) {});
         } catch (const FileError&) {
         }
     }
+    std::error_code ignored;
+    std::filesystem::remove(path, ignored);
     return 0;
 }

@@ -37,8 +37,8 @@ int ReadDesignFile(const std::filesystem::path& path, int selector, DesignRecord
         ReadVersion2File(reader, selector, record, defaults);
         return 2;
     }
-    // The notice names version 2.0 as the format of the save; that is how the engineer has
-    // always read it, although the save writes the current format.
+    // The version 1 notice names 2.0 as the format of the save, although the save writes the
+    // current one; the wording is kept as users of version 1 files know it.
     Notify(notify, {"Opening Korvath Win 1.x file",
                     "The file being opened was created in Korvath Win 1.x.\r"
                     "When saved it will be updated to version 2.0 format."});

@@ -1,7 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+
+// The longest line a project file may hold, line end not counted. The reader refuses longer
+// lines so that a huge or binary file cannot take unbounded memory, and the writer refuses
+// longer texts so that it never makes a file the reader would refuse.
+inline constexpr std::size_t MaxLineLength = 1024 * 1024;
 
 // One value a line, in the order a layout asks for them. A layout is written once as a
 // sequence of calls on a FieldStream; the file reader fills each value from its line and the

@@ -27,11 +27,10 @@ std::filesystem::path ResolveTarget(const std::filesystem::path& path) {
 // name does not derive from the target's, so a long file name cannot make it too long.
 int CreateUniqueFile(const std::filesystem::path& folder, mode_t mode,
                      std::filesystem::path& created, const std::filesystem::path& target) {
-    static unsigned counter = 0;
     for (int attempt = 0; attempt < 100; ++attempt) {
         const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
         const std::string name = ".korvath3-save-" + std::to_string(::getpid()) + "-" +
-                                 std::to_string(++counter) + "-" +
+                                 std::to_string(attempt) + "-" +
                                  std::to_string(static_cast<unsigned long long>(ticks) % 1000000);
         created = folder / name;
         int descriptor = -1;

@@ -19,11 +19,10 @@
 //
 // Failures throw FileError: 62 when the file ends where a value is needed, 13 when a number is
 // not one (or is longer than MaxNumberLength), 6 when it is beyond a double or an integer is
-// outside -32768..32767, 7 for a line longer than MaxLineLength, and the number of the
-// system's failure when the file cannot be opened or read.
+// outside -32768..32767, 7 for a line longer than MaxLineLength (field_stream.h), and the
+// number of the system's failure when the file cannot be opened or read.
 class LineReader final : public FieldStream {
   public:
-    static constexpr std::size_t MaxLineLength = 1024 * 1024;
     static constexpr std::size_t MaxNumberLength = 256;
 
     explicit LineReader(const std::filesystem::path& path);

@@ -16,7 +16,7 @@ std::string NumberLine(const std::string& digits) {
 } // namespace
 
 void LineWriter::text(std::string& value) {
-    if (value.find_first_of("\r\n") != std::string::npos) {
+    if (value.size() > MaxLineLength || value.find_first_of("\r\n") != std::string::npos) {
         throw FileError(5);
     }
     line(value);
@@ -36,5 +36,4 @@ void LineWriter::real(double& value) {
 void LineWriter::line(const std::string& value) {
     m_contents += value;
     m_contents += "\r\n";
-    ++m_lineCount;
 }

@@ -9,9 +9,9 @@
 //   text     the value as it stands, no quotation marks, no escapes ("" is an empty line);
 //   integer  " 2 " and "-1 ": a leading blank or the minus sign, one blank after the digits;
 //   real     the same frame around the general number text: " .05 ", " 3000 ", "-.75 ".
-// A value that a line cannot hold (a text with a line end in it, a real that is not a finite
-// number) is refused with error 5 before anything reaches the disk. Writing files is not done
-// here.
+// A value that a line cannot hold (a text with a line end in it or longer than MaxLineLength,
+// a real that is not a finite number) is refused with error 5 before anything reaches the
+// disk. Putting the text in a file is not done here.
 class LineWriter final : public FieldStream {
   public:
     void text(std::string& value) override;
@@ -19,10 +19,8 @@ class LineWriter final : public FieldStream {
     void real(double& value) override;
 
     const std::string& contents() const { return m_contents; }
-    int lineCount() const { return m_lineCount; }
 
   private:
     void line(const std::string& value);
     std::string m_contents;
-    int m_lineCount = 0;
 };

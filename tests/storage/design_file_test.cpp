@@ -115,63 +115,39 @@ TEST_F(DesignFileTest, ConditionalLinesFollowTheirOptions) {
     struct Case {
         const char* name;
         int selector;
-        void (*change)(DesignRecord&);
+        std::vector<FieldValue> change;
         std::string section;
     };
+    // clang-format off
     const Case cases[] = {
-        {"prestress pair", 2,
-         [](DesignRecord& r) {
-             r.SlabRefType = 1;
-             r.StrLvlShort = 150;
-             r.StrLvlLong = 125.5;
-         },
+        {"prestress pair", 2, {{"SlabRefType", 1}, {"StrLvlShort", 150}, {"StrLvlLong", 125.5}},
          CrLfLines({"Rect A", " 1 ", " 150 ", " 125.5 ", " 0 ", " 4 ", " 40.5 ", " 62.25 "})},
-        {"no pair outside 0..2", 2, [](DesignRecord& r) { r.SlabRefType = 3; },
+        {"no pair outside 0..2", 2, {{"SlabRefType", 3}},
          CrLfLines({"Rect A", " 3 ", " 0 ", " 4 ", " 40.5 ", " 62.25 "})},
-        {"CLSettleState only for compressible soil", 4,
-         [](DesignRecord& r) { r.CLSettleState = 1; },
+        {"CLSettleState only for compressible soil", 4, {{"CLSettleState", 1}},
          CrLfLines({"Clay, PI 35", " 0 ", " 1500 ", " 5.5 ", " 3.2 ", " 1.3 ", " .75 ", " 2000 ",
                     " 1 ", " 1000 "})},
-        {"compressible soil, center lift off", 4,
-         [](DesignRecord& r) {
-             r.SoilType = 1;
-             r.CLSettleState = 0;
-         },
+        {"compressible soil, center lift off", 4, {{"SoilType", 1}, {"CLSettleState", 0}},
          CrLfLines({"Clay, PI 35", " 1 ", " 1500 ", " 5.5 ", " 3.2 ", " 1.3 ", " .75 ", " 2000 ",
                     " 1 ", " 0 ", " 1000 "})},
         {"DefCLSettle needs CLSettleState", 5,
-         [](DesignRecord& r) {
-             r.SoilType = 1;
-             r.CLSettleState = 0;
-             r.DefCLSettle = 240;
-         },
+         {{"SoilType", 1}, {"CLSettleState", 0}, {"DefCLSettle", 240}},
          CrLfLines({" 40 ", " 1200 ", " 0 ", " 360 ", " 720 ", " 480 ", " 1 ", " 15 ", " .6 "})},
         {"DefCLSettle needs compressible soil", 5,
-         [](DesignRecord& r) {
-             r.SoilType = 0;
-             r.CLSettleState = 1;
-             r.DefCLSettle = 240;
-         },
+         {{"SoilType", 0}, {"CLSettleState", 1}, {"DefCLSettle", 240}},
          CrLfLines({" 40 ", " 1200 ", " 0 ", " 360 ", " 720 ", " 480 ", " 1 ", " 15 ", " .6 "})},
         {"line load without user prestress", 6,
-         [](DesignRecord& r) {
-             r.LineLoadType = 1;
-             r.LineLoad = 800;
-             r.DirLineLoad = "Short Direction";
-             r.PreLineLoadType = 1;
-         },
+         {{"LineLoadType", 1}, {"LineLoad", 800}, {"DirLineLoad", "Short Direction"},
+          {"PreLineLoadType", 1}},
          CrLfLines({" 1 ", " 800 ", "Short Direction", " 1 ", " 99.5 "})},
         {"line load type other than 1 is one line", 6,
-         [](DesignRecord& r) {
-             r.LineLoadType = 2;
-             r.PreLineLoadType = 2;
-         },
-         CrLfLines({" 2 "})},
+         {{"LineLoadType", 2}, {"PreLineLoadType", 2}}, CrLfLines({" 2 "})},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         DesignRecord source = MinimumProject();
-        c.change(source);
+        SetFields(source, c.change);
         const auto path = folder / "case.kv";
         WriteDesignFile(path, c.selector, source);
         const std::string written = ReadBytes(path);

@@ -128,11 +128,11 @@ TEST_F(FileErrorTest, BadContentsGiveTheirErrors) {
     }
 
     // A line of exactly 1 MiB is taken; one character more is refused before it is held.
-    const std::string longest(LineReader::MaxLineLength, 'x');
+    const std::string longest(MaxLineLength, 'x');
     WriteBytes(path, CrLfLines({"Korvath 3.0", " 0 ", longest, " 1 ", " 2 ", " 3 ", " 4 ", " 0 "}));
     DesignRecord record;
     ReadDesignFile(path, 1, record, DesignRecord{}, {});
-    EXPECT_EQ(record.MatLabel.size(), LineReader::MaxLineLength);
+    EXPECT_EQ(record.MatLabel.size(), MaxLineLength);
     WriteBytes(path, CrLfLines({"Korvath 3.0", " 0 ", longest + "x"}));
     EXPECT_EQ(ReadError(path, 1), 7);
 }
@@ -183,6 +183,8 @@ TEST_F(FileErrorTest, FailedSaveLeavesTheOldFileAlone) {
     WriteBytes(old, "previous project\r\n");
     DesignRecord broken;
     broken.ProjName = "two\r\nlines";
+    EXPECT_EQ(WriteError(old, broken), 5);
+    broken.ProjName = std::string(MaxLineLength + 1, 'x');
     EXPECT_EQ(WriteError(old, broken), 5);
     broken.ProjName = "";
     broken.Fpc = std::numeric_limits<double>::infinity();

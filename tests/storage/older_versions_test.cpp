@@ -209,7 +209,7 @@ TEST_F(OlderVersionTest, Version1ProjectFile) {
 
 TEST_F(OlderVersionTest, Version1TabFiles) {
     const auto path = folder / "old.tab";
-    const auto expectRead = [&](int selector, std::initializer_list<FieldValue> changed) {
+    const auto expectRead = [&](int selector, const std::vector<FieldValue>& changed) {
         DesignRecord read = PreviousProject();
         EXPECT_EQ(Open(path, selector, read), Version1);
         DesignRecord e = PreviousProject();

@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 // A fresh empty folder for each test, removed afterwards.
 class StorageTest : public ::testing::Test {
@@ -24,9 +25,14 @@ class StorageTest : public ::testing::Test {
         std::filesystem::create_directories(folder);
     }
     void TearDown() override {
+        // A test may have locked a folder against writing; open it again so it can go.
         std::error_code ignored;
-        std::filesystem::permissions(folder, std::filesystem::perms::owner_all,
-                                     std::filesystem::perm_options::add, ignored);
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder, ignored)) {
+            if (entry.is_directory(ignored)) {
+                std::filesystem::permissions(entry.path(), std::filesystem::perms::owner_all,
+                                             std::filesystem::perm_options::add, ignored);
+            }
+        }
         std::filesystem::remove_all(folder, ignored);
     }
 
@@ -109,7 +115,7 @@ struct FieldValue {
     std::variant<double, std::string> value;
 };
 
-inline void SetFields(DesignRecord& record, std::initializer_list<FieldValue> values) {
+inline void SetFields(DesignRecord& record, const std::vector<FieldValue>& values) {
     for (const FieldValue& v : values) {
         bool found = false;
         for (const DesignField& field : DesignRecordFields()) {
