@@ -1,7 +1,10 @@
 #include "engine/analysis_run.h"
 
 #include "engine/analysis_spacing.h"
+#include "engine/cracked_section.h"
 #include "engine/equivalent_depth.h"
+#include "engine/expansive_moments.h"
+#include "engine/expansive_stiffness_shear.h"
 #include "engine/prestress.h"
 #include "engine/section_properties.h"
 #include "engine/soil_bearing.h"
@@ -60,4 +63,11 @@ void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, Resul
     runStage(AnalysisStage::SoilBearing, [&] { ComputeSoilBearing(settings, record, results); });
     runStage(AnalysisStage::Prestress, [&] { ComputePrestress(record, results); });
     runStage(AnalysisStage::AnalysisSpacing, [&] { ComputeAnalysisSpacing(record, results); });
+    if (record.SoilType == 0) {
+        runStage(AnalysisStage::ExpansiveSoil, [&] {
+            ComputeExpansiveMoments(settings, record, results);
+            ComputeExpansiveStiffnessAndShear(settings, record, results);
+        });
+    }
+    runStage(AnalysisStage::CrackedSection, [&] { ComputeCrackedSection(record, results); });
 }

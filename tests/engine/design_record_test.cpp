@@ -45,18 +45,26 @@ TEST(DesignRecord, FieldTableAddressesEveryFieldOnceByItsName) {
     EXPECT_EQ(record.NoDataFlag, 88);
 }
 
-TEST(ResultsRecord, FieldTableNamesEveryResultOnceWithCountsAsSixteenBit) {
+TEST(ResultsRecord, FieldTableNamesEveryResultOnceWithCountsAndFlagsAsSixteenBit) {
     std::set<std::string> names;
-    int sixteenBit = 0;
+    std::set<std::string> sixteenBit;
+    std::set<std::string> texts;
     for (const ResultField& field : ResultsRecordFields()) {
         EXPECT_TRUE(names.insert(std::string(field.name)).second) << field.name;
-        sixteenBit += field.kind == FieldKind::Int16;
+        if (field.kind == FieldKind::Int16) {
+            sixteenBit.insert(std::string(field.name));
+        } else if (field.kind == FieldKind::Text) {
+            texts.insert(std::string(field.name));
+        }
     }
     EXPECT_TRUE(names.contains("CgTopShortCopy"));
     EXPECT_TRUE(names.contains("PerimeterLoad"));
     EXPECT_TRUE(names.contains("EccLong"));
-    // BeamsShort, BeamsLong, TotalTenShort, TotalTenLong.
-    EXPECT_EQ(sixteenBit, 4);
+    EXPECT_EQ(sixteenBit, (std::set<std::string>{
+                              "BeamsShort", "BeamsLong", "TotalTenShort", "TotalTenLong",
+                              "Em5ControlLong", "Em5ControlShort", "CrackValidCLLong",
+                              "CrackValidCLShort", "CrackValidELLong", "CrackValidELShort"}));
+    EXPECT_EQ(texts, (std::set<std::string>{"StiffBasisShort", "StiffBasisLong"}));
 }
 
 TEST(TendonSize, StandardStrandsTakeTheTableAndACustomTendonItsRoundDiameter) {

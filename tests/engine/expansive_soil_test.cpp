@@ -1,0 +1,264 @@
+#include "engine/analysis_run.h"
+#include "engine/expansive_moments.h"
+#include "tests/engine/engine_test_support.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The Meadowbrook example: 40 x 60 ft, 4 in slab, beams 12 in wide, five 24 in and two 28 in
+// deep across the short direction, four 24 in and two 28 in across the long one, one tendon
+// each at 3 in cover; spacings from the extremes 8 / 13 ft and 6 / 12 ft; em 5.5 / 4 ft,
+// ym 2.5 / 1.2 in, perimeter load 1500 lb/ft.
+DesignRecord meadowbrook() {
+    DesignRecord r = SmallRibbedRecord();
+    r.QS1 = 5, r.QS2 = 2, r.QL1 = 4, r.QL2 = 2;
+    r.DS2 = 28, r.DL2 = 28;
+    r.TS2 = 1, r.TL2 = 1, r.CS2 = 3, r.CL2 = 3;
+    r.BeamSpacing = 0, r.SMin = 8, r.LMin = 6, r.SMax = 13, r.LMax = 12;
+    r.SixFtRule = 1;
+    r.EmCenter = 5.5, r.EmEdge = 4, r.YmCenter = 2.5, r.YmEdge = 1.2;
+    r.DefCenter = 480, r.DefEdge = 960;
+    return r;
+}
+
+ResultsRecord analysed(DesignRecord record, EngineSettings settings = {}) {
+    ResultsRecord results;
+    RunDesignEngine(settings, record, results);
+    return results;
+}
+
+#define EXPECT_TEN_DIGITS(actual, expected)                                                        \
+    EXPECT_NEAR((actual), (expected), std::fabs(expected) * 1e-10) << #actual
+
+} // namespace
+
+// Every value below comes from an independent calculation in 50-digit arithmetic of the same
+// formulas, with the equivalent depths found by a root finder instead of a bisection.
+TEST(ExpansiveSoil, MeadowbrookExampleAgreesWithAnIndependentCalculation) {
+    const ResultsRecord r = analysed(meadowbrook(), EngineSettings{0, 0, 1});
+    EXPECT_TEN_DIGITS(r.EquivDepthShort, 25.325014625170917);
+    EXPECT_TEN_DIGITS(r.EquivDepthLong, 25.537512964422776);
+    EXPECT_TEN_DIGITS(r.CgTopShort, 6.8556844860805894);
+    EXPECT_TEN_DIGITS(r.InertiaShort, 248800.98969072165);
+    EXPECT_TEN_DIGITS(r.AreaShort, 4671.301228514357);
+    EXPECT_TEN_DIGITS(r.SecModTopShort, 36291.196042623272);
+    EXPECT_TEN_DIGITS(r.SecModBottomLong, 11348.292222659643);
+    EXPECT_TEN_DIGITS(r.ConcreteWeight, 271.01536928812644);
+    EXPECT_TEN_DIGITS(r.BearingArea, 2206.4444444444444);
+    EXPECT_TEN_DIGITS(r.SoilPressure, 166.33791537884671);
+    EXPECT_TEN_DIGITS(r.BetaShort, 11.582560960014671);
+    EXPECT_EQ(r.SlabTenShort, 6.0);
+    EXPECT_EQ(r.SlabTenLong, 5.0);
+    EXPECT_TEN_DIGITS(r.PsCenterShort, 52.331293692806491);
+    EXPECT_TEN_DIGITS(r.PsCenterLong, 55.092974066053771);
+    EXPECT_TEN_DIGITS(r.EccShort, -5.9539387736268276);
+    EXPECT_TEN_DIGITS(r.EccLong, -5.3608660945585914);
+
+    // em 5.5 ft: A = 0.5, B = 2.2607843; the moment at 5 ft governs both directions.
+    EXPECT_TEN_DIGITS(r.MomentCLBase, 1.6262497351618143);
+    EXPECT_EQ(r.Em5ControlLong, 1);
+    EXPECT_EQ(r.Em5ControlShort, 1);
+    EXPECT_TEN_DIGITS(r.MomentCLLong, 11.926475056447794);
+    EXPECT_TEN_DIGITS(r.MomentCLShort, 12.522798809270183);
+    EXPECT_TEN_DIGITS(r.MomentELLong, 5.3014126613235072);
+    EXPECT_TEN_DIGITS(r.MomentELShort, 6.5434962087018926);
+    EXPECT_TEN_DIGITS(r.StressTopCLShort, -0.23622041569395262);
+    EXPECT_TEN_DIGITS(r.StressBotCLShort, 0.82969448677488909);
+    EXPECT_TEN_DIGITS(r.StressTopCLLong, -0.20190064108924219);
+    EXPECT_TEN_DIGITS(r.StressBotCLLong, 0.64987549547132178);
+    EXPECT_TEN_DIGITS(r.StressBotELShort, -0.18936103350599804);
+    EXPECT_TEN_DIGITS(r.StressTopELShort, 0.14204577307582372);
+    EXPECT_TEN_DIGITS(r.StressBotELLong, -0.078814420357455609);
+    EXPECT_TEN_DIGITS(r.StressTopELLong, 0.11295167729024538);
+    EXPECT_TEN_DIGITS(r.ExcessTopCLShort, -28.120416545097108);
+    EXPECT_TEN_DIGITS(r.ExcessTopELShort, -89.478090883272317);
+    EXPECT_TEN_DIGITS(r.ExcessBotELLong, -76.017535618626214);
+
+    // Six Beta exceeds both sides: the stiffness is judged over the rectangle.
+    EXPECT_EQ(r.StiffLengthShort, 40.0);
+    EXPECT_EQ(r.StiffBasisShort, "Width");
+    EXPECT_EQ(r.StiffBasisLong, "Length");
+    EXPECT_TEN_DIGITS(r.DeflCLShort, 0.71094088127311499);
+    EXPECT_TEN_DIGITS(r.DeflELLong, 0.3858010296258644);
+    EXPECT_TEN_DIGITS(r.DeflPsShort, -0.053331858572754099);
+    EXPECT_TEN_DIGITS(r.DeflPsLong, -0.045052799111767056);
+    EXPECT_TEN_DIGITS(r.ReqInertiaCLShort, 173115.17073935101);
+    EXPECT_TEN_DIGITS(r.ExcessStiffELLong, -27.57083271057068);
+    EXPECT_TEN_DIGITS(r.AllowShearShort, 103.57909351443954);
+    EXPECT_TEN_DIGITS(r.AllowShearLong, 104.13142958908899);
+    EXPECT_TEN_DIGITS(r.ShearForceCLShort, 2.3628670437087018);
+    EXPECT_TEN_DIGITS(r.ShearForceCLLong, 2.2034979926269387);
+    EXPECT_TEN_DIGITS(r.ShearForceELShort, 2.6635212356984589);
+    EXPECT_TEN_DIGITS(r.ShearCLShort, 66.644075000855149);
+    EXPECT_TEN_DIGITS(r.ExcessShearELShort, -27.471897205479431);
+
+    EXPECT_EQ(r.CrackValidCLLong, 1);
+    EXPECT_TEN_DIGITS(r.CrackCapacityCLLong, 257.06883130785965);
+    EXPECT_TEN_DIGITS(r.ExcessCrackCLLong, 67.018731850045752);
+    EXPECT_TEN_DIGITS(r.CrackCapacityELShort, 342.02581749659176);
+    EXPECT_TEN_DIGITS(r.ExcessCrackELShort, 3.3105623008775562);
+}
+
+TEST(ExpansiveSoil, CenterLiftCoefficientsAndTheControlAtFiveFeet) {
+    CenterLiftCoefficients c = CenterLiftCoefficientsFor(5.0, 2.5, 1500);
+    EXPECT_EQ(c.A, 1.0);
+    EXPECT_EQ(c.B, 0.0);
+    // (2.5 - 1) / 3 and ((8 - 887/255) x 1.5) / 3.
+    c = CenterLiftCoefficientsFor(6, 2.5, 1500);
+    EXPECT_CLOSE(c.A, 0.5);
+    EXPECT_NEAR(c.B, 2.260784313725490, 1e-14);
+    EXPECT_CLOSE(CenterLiftCoefficientsFor(6, 0.4, 1500).A, -0.2); // no lower limit
+    c = CenterLiftCoefficientsFor(6, 5, 1500);
+    EXPECT_EQ(c.A, 1.0);
+    EXPECT_EQ(c.B, 0.0);
+
+    // At 5 ft exactly no control: flags 0, the Em5 moments keep the run before.
+    DesignRecord record = meadowbrook();
+    record.EmCenter = -5; // made absolute, in the record too
+    ResultsRecord r;
+    r.MomentCLLongEm5 = 123;
+    RunDesignEngine(EngineSettings{}, record, r);
+    EXPECT_EQ(record.EmCenter, 5.0);
+    EXPECT_EQ(r.Em5ControlLong, 0);
+    EXPECT_EQ(r.MomentCLLongEm5, 123.0);
+    EXPECT_CLOSE(r.MomentCLLong, std::pow(5.0, 1.238) * r.MomentCLBase);
+
+    // At 6 ft: 0.5 x 6^1.238 + 2.2608 = 6.856 is less than 5^1.238 = 7.334, so the moment at
+    // 5 ft governs.
+    record.EmCenter = 6;
+    RunDesignEngine(EngineSettings{}, record, r);
+    EXPECT_EQ(r.Em5ControlLong, 1);
+    EXPECT_CLOSE(r.MomentCLLong, std::pow(5.0, 1.238) * r.MomentCLBase);
+}
+
+TEST(ExpansiveSoil, NearlySquareRectanglesTakeTheLongMomentBothWays) {
+    DesignRecord record = meadowbrook();
+    record.RectLength = 44; // 44 / 40 is exactly 1.1, which is not below it
+    ResultsRecord r = analysed(record);
+    EXPECT_NE(r.MomentCLShort, r.MomentCLLong);
+    EXPECT_NE(r.MomentELShort, r.MomentELLong);
+    record.RectLength = 43.99;
+    r = analysed(record);
+    EXPECT_EQ(r.MomentCLShort, r.MomentCLLong);
+    EXPECT_EQ(r.MomentELShort, r.MomentELLong);
+    EXPECT_EQ(r.Em5ControlShort, 1); // as set by the control before the rule
+}
+
+TEST(ExpansiveSoil, StressesRestOnTheForceAtBetaOrTheCenterPrestress) {
+    DesignRecord record = meadowbrook();
+    record.Subgradetype = 2;
+    record.UDSS = 20, record.UDLS = 20, record.UDSM = 40, record.UDLM = 40;
+    const ResultsRecord center = analysed(record);
+    const ResultsRecord beta = analysed(record, EngineSettings{1, 0, 0});
+    EXPECT_CLOSE(beta.StressTopCLShort,
+                 beta.ForceNetShort / beta.AreaShort -
+                     beta.MomentCLShort * 60 * 12 / beta.SecModTopShort +
+                     beta.EccShort * beta.ForceNetShort / beta.SecModTopShort);
+    EXPECT_CLOSE(center.StressBotELLong,
+                 center.PsCenterLong / 1000 -
+                     center.MomentELLong * 40 * 12 / center.SecModBottomLong -
+                     center.PsCenterLong * center.AreaLong * center.EccLong /
+                         center.SecModBottomLong / 1000);
+    EXPECT_NE(center.StressTopCLShort, beta.StressTopCLShort);
+}
+
+TEST(ExpansiveSoil, StiffnessLengthAndAllowableShear) {
+    DesignRecord record = meadowbrook();
+    ResultsRecord r = analysed(record);
+    // Six Beta exactly the width is not below it: the width, by name.
+    record.RectWidth = r.BetaShort * 6;
+    r = analysed(record);
+    EXPECT_EQ(r.StiffLengthShort, record.RectWidth);
+    EXPECT_EQ(r.StiffBasisShort, "Width");
+    record.RectWidth = r.BetaShort * 6 + 0.01;
+    r = analysed(record);
+    EXPECT_EQ(r.StiffLengthShort, r.BetaShort * 6);
+    EXPECT_EQ(r.StiffBasisShort, "6*Beta");
+
+    // Without ShowDD the deflection results are left alone, the stiffness length is not.
+    r.AllowDeflCLShort = -7;
+    r.StiffLengthShort = -7;
+    RunDesignEngine(EngineSettings{}, record, r);
+    EXPECT_EQ(r.AllowDeflCLShort, -7.0);
+    EXPECT_GT(r.StiffLengthShort, 0.0);
+
+    // Friction beyond the force of 13 tendons leaves the concrete alone: 1.7 sqrt(3000).
+    record.SlabRefType = 0;
+    record.NumSlabTenShort = 6;
+    record.Subgradetype = 2;
+    record.UDSS = 1000;
+    EXPECT_NEAR(analysed(record).AllowShearShort, 93.112834775878241, 1e-12);
+}
+
+TEST(ExpansiveSoil, EdgeLiftShearIsOneEquationCenterLiftTwo) {
+    DesignRecord record = meadowbrook();
+    record.RectLength = 40;
+    record.QS1 = 4, record.QS2 = 2;
+    record.SMin = 6, record.SMax = 12;
+    const ResultsRecord r = analysed(record);
+    EXPECT_EQ(r.EquivDepthShort, r.EquivDepthLong);
+    EXPECT_EQ(r.ShearForceELShort, r.ShearForceELLong);
+    EXPECT_NE(r.ShearForceCLShort, r.ShearForceCLLong);
+}
+
+TEST(CrackedSection, SectionsWithoutTensionTendonsAndTheMixedShortCondition) {
+    DesignRecord record = meadowbrook();
+    ResultsRecord r = analysed(record);
+    // No slab tendons: the center lift capacity cannot be calculated; the excess stays.
+    record.SlabRefType = 0;
+    const double excessBefore = r.ExcessCrackCLShort;
+    RunDesignEngine(EngineSettings{}, record, r);
+    EXPECT_EQ(r.CrackValidCLShort, 0);
+    EXPECT_EQ(r.CrackCapacityCLShort, 0.0);
+    EXPECT_EQ(r.ExcessCrackCLShort, excessBefore);
+
+    // TS1 0 and TL2 0 with tendons in S2: the short tendons sit at the bottom of the whole
+    // equivalent depth, lever arm the full depth: 2 tendons x 174 x 0.153 = 53.244 kips,
+    // block 53.244 / (2.55 x 720) in.
+    record.TS1 = 0, record.TL2 = 0;
+    r = analysed(record);
+    const double block = 53.244 / (2.55 * 720);
+    EXPECT_CLOSE(r.CrackBlockELShort, block);
+    EXPECT_CLOSE(r.CrackCapacityELShort, (r.EquivDepthShort - block / 2) * (53.244 / 12));
+
+    // No short beam tendons but tendons in L2: the short condition reads TL2, fails, and the
+    // formula divides zero by zero.
+    record.TS2 = 0, record.TL2 = 1;
+    try {
+        analysed(record);
+        ADD_FAILURE() << "no fault";
+    } catch (const EngineFault& fault) {
+        EXPECT_EQ(fault.kind(), FaultKind::Overflow);
+        EXPECT_EQ(fault.stage(), 7);
+    }
+    // Without any beam tendons there is nothing to divide.
+    record.TL1 = 0, record.TL2 = 0;
+    r = analysed(record);
+    EXPECT_EQ(r.CrackValidELShort, 0);
+    EXPECT_EQ(r.CrackValidELLong, 0);
+}
+
+TEST(CrackedSection, ACompressibleProjectFirstInARunHasNoDemand) {
+    DesignRecord record = meadowbrook();
+    record.SoilType = 1;
+    record.Settle = 2;
+    const ResultsRecord r = analysed(record);
+    EXPECT_EQ(r.MomentCLLong, 0.0);
+    EXPECT_EQ(r.CrackDemandCLLong, 0.0);
+    EXPECT_EQ(r.CrackValidCLLong, 1);
+    EXPECT_EQ(r.ExcessCrackCLLong, -100.0);
+    EXPECT_EQ(r.ExcessCrackELShort, -100.0);
+}
+
+TEST(ExpansiveSoil, ZeroPerimeterLoadInEdgeLiftFaultsInStageSix) {
+    DesignRecord record = meadowbrook();
+    record.TotalLoad = 0;
+    try {
+        analysed(record);
+        ADD_FAILURE() << "no fault";
+    } catch (const EngineFault& fault) {
+        EXPECT_EQ(fault.kind(), FaultKind::DivisionByZero);
+        EXPECT_EQ(fault.stage(), 6);
+    }
+}
