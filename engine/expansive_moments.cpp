@@ -1,40 +1,7 @@
 #include "engine/expansive_moments.h"
 
 #include "engine/checked_math.h"
-
-namespace {
-
-// The prestress terms of one direction's fibre stresses: the axial stress P/A and the stress of
-// the eccentric force over a section modulus. With UseBeta the force left at Beta on the
-// equivalent area; otherwise the average prestress at the center.
-struct PrestressTerms {
-    bool useBeta;
-    double forceNet;
-    double area;
-    double ecc;
-    double psCenter;
-
-    Real axial() const {
-        if (useBeta) {
-            return Real(forceNet) / area;
-        }
-        return Real(psCenter) / 1000;
-    }
-
-    Real eccentric(Real sectionModulus) const {
-        if (useBeta) {
-            return (Real(ecc) * forceNet) / sectionModulus;
-        }
-        return (((Real(psCenter) * area) * ecc) / sectionModulus) / 1000;
-    }
-};
-
-// The excess of a stress over its allowable, in percent.
-double excess(double stress, Real allowable) {
-    return (Real(stress) / allowable - 1) * 100;
-}
-
-} // namespace
+#include "engine/section_checks.h"
 
 CenterLiftCoefficients CenterLiftCoefficientsFor(double emCenter, double ymCenter,
                                                  double totalLoad) {
@@ -149,12 +116,12 @@ void ComputeExpansiveMoments(const EngineSettings& settings, DesignRecord& recor
     // Center lift puts the top in tension, edge lift the bottom.
     const Real allowTension = results.AllowTension;
     const Real allowCompression = Real(results.AllowCompression) / 1000;
-    results.ExcessTopCLShort = excess(results.StressTopCLShort, allowTension);
-    results.ExcessBotCLShort = excess(results.StressBotCLShort, allowCompression);
-    results.ExcessTopCLLong = excess(results.StressTopCLLong, allowTension);
-    results.ExcessBotCLLong = excess(results.StressBotCLLong, allowCompression);
-    results.ExcessTopELShort = excess(results.StressTopELShort, allowCompression);
-    results.ExcessBotELShort = excess(results.StressBotELShort, allowTension);
-    results.ExcessTopELLong = excess(results.StressTopELLong, allowCompression);
-    results.ExcessBotELLong = excess(results.StressBotELLong, allowTension);
+    results.ExcessTopCLShort = Excess(results.StressTopCLShort, allowTension);
+    results.ExcessBotCLShort = Excess(results.StressBotCLShort, allowCompression);
+    results.ExcessTopCLLong = Excess(results.StressTopCLLong, allowTension);
+    results.ExcessBotCLLong = Excess(results.StressBotCLLong, allowCompression);
+    results.ExcessTopELShort = Excess(results.StressTopELShort, allowCompression);
+    results.ExcessBotELShort = Excess(results.StressBotELShort, allowTension);
+    results.ExcessTopELLong = Excess(results.StressTopELLong, allowCompression);
+    results.ExcessBotELLong = Excess(results.StressBotELLong, allowTension);
 }

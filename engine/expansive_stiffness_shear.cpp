@@ -1,23 +1,15 @@
 #include "engine/expansive_stiffness_shear.h"
 
 #include "engine/checked_math.h"
+#include "engine/section_checks.h"
 
 namespace {
-
-// The length over which the stiffness is judged: six Beta, or the side of the rectangle when
-// six Beta is not below it.
-Real stiffnessLength(Real beta, Real side) {
-    if (beta * 6 < side) {
-        return beta * 6;
-    }
-    return side;
-}
 
 void computeDifferentialDeflection(const DesignRecord& record, ResultsRecord& r) {
     const Real RectWidth = record.RectWidth;
     const Real RectLength = record.RectLength;
-    r.StiffLengthShort = stiffnessLength(r.BetaShort, RectWidth);
-    r.StiffLengthLong = stiffnessLength(r.BetaLong, RectLength);
+    r.StiffLengthShort = StiffnessLengthFor(r.BetaShort, RectWidth, "Width").length;
+    r.StiffLengthLong = StiffnessLengthFor(r.BetaLong, RectLength, "Length").length;
     r.AllowDeflCLShort = (Real(r.StiffLengthShort) * 12) / record.DefCenter;
     r.AllowDeflCLLong = (Real(r.StiffLengthLong) * 12) / record.DefCenter;
     r.AllowDeflELShort = (Real(r.StiffLengthShort) * 12) / record.DefEdge;
@@ -59,10 +51,12 @@ void computeDifferentialDeflection(const DesignRecord& record, ResultsRecord& r)
 void computeRequiredStiffness(const DesignRecord& record, ResultsRecord& r) {
     const Real RectWidth = record.RectWidth;
     const Real RectLength = record.RectLength;
-    r.StiffLengthShort = stiffnessLength(r.BetaShort, RectWidth);
-    r.StiffBasisShort = Real(r.BetaShort) * 6 < RectWidth ? "6*Beta" : "Width";
-    r.StiffLengthLong = stiffnessLength(r.BetaLong, RectLength);
-    r.StiffBasisLong = Real(r.BetaLong) * 6 < RectLength ? "6*Beta" : "Length";
+    const StiffnessLength shortLength = StiffnessLengthFor(r.BetaShort, RectWidth, "Width");
+    r.StiffLengthShort = shortLength.length;
+    r.StiffBasisShort = shortLength.basis;
+    const StiffnessLength longLength = StiffnessLengthFor(r.BetaLong, RectLength, "Length");
+    r.StiffLengthLong = longLength.length;
+    r.StiffBasisLong = longLength.basis;
 
     const Real Ec = record.Ec;
     r.ReqInertiaCLShort =
@@ -74,33 +68,17 @@ void computeRequiredStiffness(const DesignRecord& record, ResultsRecord& r) {
     r.ReqInertiaELLong =
         (Real(r.MomentELLong) * 18000 * RectWidth * record.DefEdge * r.StiffLengthLong) / Ec;
 
-    r.ExcessStiffCLShort = (Real(r.ReqInertiaCLShort) / r.InertiaShort - 1) * 100;
-    r.ExcessStiffCLLong = (Real(r.ReqInertiaCLLong) / r.InertiaLong - 1) * 100;
-    r.ExcessStiffELShort = (Real(r.ReqInertiaELShort) / r.InertiaShort - 1) * 100;
-    r.ExcessStiffELLong = (Real(r.ReqInertiaELLong) / r.InertiaLong - 1) * 100;
-}
-
-// The concrete's shear strength, plus a fifth of the prestress that is left after the maximum
-// subgrade friction. The prestress only ever adds.
-Real allowableShear(Real force, Real friction, Real area, Real fpc) {
-    const Real netForce = force - friction;
-    if (netForce > 0) {
-        return (netForce * 0.2 * 1000) / area + Sqrt(fpc) * 1.7;
-    }
-    return Sqrt(fpc) * 1.7;
-}
-
-// The shear force per foot carried by the beams alone over the equivalent depth, in psi.
-Real shearStress(Real forcePerFoot, Real sectionWidthFt, std::int16_t beams, Real beamWidth,
-                 Real depth) {
-    return ((forcePerFoot * sectionWidthFt) / (beams * beamWidth * depth)) * 1000;
+    r.ExcessStiffCLShort = Excess(r.ReqInertiaCLShort, r.InertiaShort);
+    r.ExcessStiffCLLong = Excess(r.ReqInertiaCLLong, r.InertiaLong);
+    r.ExcessStiffELShort = Excess(r.ReqInertiaELShort, r.InertiaShort);
+    r.ExcessStiffELLong = Excess(r.ReqInertiaELLong, r.InertiaLong);
 }
 
 void computeShear(const DesignRecord& record, ResultsRecord& r) {
     const bool userFriction = record.Subgradetype == 2;
-    r.AllowShearShort = allowableShear(r.ForceShort0, userFriction ? record.UDSS : r.FrictionShort,
+    r.AllowShearShort = AllowableShear(r.ForceShort0, userFriction ? record.UDSS : r.FrictionShort,
                                        r.AreaShort, record.Fpc);
-    r.AllowShearLong = allowableShear(r.ForceLong0, userFriction ? record.UDLS : r.FrictionLong,
+    r.AllowShearLong = AllowableShear(r.ForceLong0, userFriction ? record.UDLS : r.FrictionLong,
                                       r.AreaLong, record.Fpc);
 
     // Center lift has an equation for each direction; edge lift one equation for both.
@@ -127,19 +105,19 @@ void computeShear(const DesignRecord& record, ResultsRecord& r) {
                           Power(RectLength, 0.07) * Power(r.EquivDepthLong, 0.4)) /
                          (Power(r.SpacingLong, 0.015) * 3);
 
-    r.ShearCLShort = shearStress(r.ShearForceCLShort, RectLength, r.BeamsShort, r.AvgBeamWidthShort,
-                                 r.EquivDepthShort);
-    r.ShearCLLong = shearStress(r.ShearForceCLLong, RectWidth, r.BeamsLong, r.AvgBeamWidthLong,
-                                r.EquivDepthLong);
-    r.ShearELShort = shearStress(r.ShearForceELShort, RectLength, r.BeamsShort, r.AvgBeamWidthShort,
-                                 r.EquivDepthShort);
-    r.ShearELLong = shearStress(r.ShearForceELLong, RectWidth, r.BeamsLong, r.AvgBeamWidthLong,
-                                r.EquivDepthLong);
+    r.ShearCLShort = BeamShearStress(r.ShearForceCLShort, RectLength, r.BeamsShort,
+                                     r.AvgBeamWidthShort, r.EquivDepthShort);
+    r.ShearCLLong = BeamShearStress(r.ShearForceCLLong, RectWidth, r.BeamsLong, r.AvgBeamWidthLong,
+                                    r.EquivDepthLong);
+    r.ShearELShort = BeamShearStress(r.ShearForceELShort, RectLength, r.BeamsShort,
+                                     r.AvgBeamWidthShort, r.EquivDepthShort);
+    r.ShearELLong = BeamShearStress(r.ShearForceELLong, RectWidth, r.BeamsLong, r.AvgBeamWidthLong,
+                                    r.EquivDepthLong);
 
-    r.ExcessShearCLShort = (Real(r.ShearCLShort) / r.AllowShearShort - 1) * 100;
-    r.ExcessShearCLLong = (Real(r.ShearCLLong) / r.AllowShearLong - 1) * 100;
-    r.ExcessShearELShort = (Real(r.ShearELShort) / r.AllowShearShort - 1) * 100;
-    r.ExcessShearELLong = (Real(r.ShearELLong) / r.AllowShearLong - 1) * 100;
+    r.ExcessShearCLShort = Excess(r.ShearCLShort, r.AllowShearShort);
+    r.ExcessShearCLLong = Excess(r.ShearCLLong, r.AllowShearLong);
+    r.ExcessShearELShort = Excess(r.ShearELShort, r.AllowShearShort);
+    r.ExcessShearELLong = Excess(r.ShearELLong, r.AllowShearLong);
 }
 
 } // namespace
