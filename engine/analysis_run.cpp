@@ -1,13 +1,17 @@
 #include "engine/analysis_run.h"
 
 #include "engine/analysis_spacing.h"
+#include "engine/compressible_soil.h"
 #include "engine/cracked_section.h"
 #include "engine/equivalent_depth.h"
 #include "engine/expansive_moments.h"
 #include "engine/expansive_stiffness_shear.h"
+#include "engine/line_load.h"
 #include "engine/prestress.h"
 #include "engine/section_properties.h"
 #include "engine/soil_bearing.h"
+#include "engine/tendon_tallies.h"
+#include "engine/uniform_thickness.h"
 
 namespace {
 
@@ -70,4 +74,16 @@ void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, Resul
         });
     }
     runStage(AnalysisStage::CrackedSection, [&] { ComputeCrackedSection(record, results); });
+    if (record.SoilType == 1) {
+        runStage(AnalysisStage::CompressibleSoil,
+                 [&] { ComputeCompressibleSoil(settings, record, results); });
+    }
+    runStage(AnalysisStage::TendonTotals, [&] { ComputeTendonTallies(record, results); });
+    if (record.FlatSlab == 1) {
+        runStage(AnalysisStage::UniformThickness,
+                 [&] { ComputeUniformThickness(settings, record, results); });
+    }
+    if (record.LineLoadType == 1) {
+        runStage(AnalysisStage::LineLoad, [&] { ComputeLineLoad(record, results); });
+    }
 }

@@ -68,7 +68,85 @@
     REAL(CrackCapacityELLong) REAL(CrackCapacityELShort) INT16(CrackValidCLLong)                   \
     INT16(CrackValidCLShort) INT16(CrackValidELLong) INT16(CrackValidELShort)                      \
     REAL(ExcessCrackCLLong) REAL(ExcessCrackCLShort) REAL(ExcessCrackELLong)                       \
-    REAL(ExcessCrackELShort)
+    REAL(ExcessCrackELShort)                                                                       \
+    /* Compressible soil: center down and edge down */                                             \
+    REAL(SettleRefShort) REAL(SettleRefLong) REAL(BetaCDShort) REAL(BetaCDLong) REAL(BetaEDShort)  \
+    REAL(BetaEDLong) REAL(ForceNetCDShort) REAL(ForceNetCDLong) REAL(ForceNetEDShort)              \
+    REAL(ForceNetEDLong) REAL(MomentCDBase) REAL(MomentCDShort) REAL(MomentCDLong)                 \
+    REAL(MomentEDShort) REAL(MomentEDLong) REAL(StressBotCDShort) REAL(StressBotCDLong)            \
+    REAL(StressTopCDShort) REAL(StressTopCDLong) REAL(StressTopEDShort) REAL(StressTopEDLong)      \
+    REAL(StressBotEDShort) REAL(StressBotEDLong) REAL(StiffLengthCDShort) REAL(StiffLengthCDLong)  \
+    REAL(StiffLengthEDShort) REAL(StiffLengthEDLong) TEXT(StiffBasisCDShort)                       \
+    TEXT(StiffBasisCDLong) TEXT(StiffBasisEDShort) TEXT(StiffBasisEDLong) REAL(AllowDeflCDShort)   \
+    REAL(AllowDeflCDLong) REAL(AllowDeflEDShort) REAL(AllowDeflEDLong) REAL(DeflCDShort)           \
+    REAL(DeflCDLong) REAL(DeflEDShort) REAL(DeflEDLong) REAL(DeflPsCDShort) REAL(DeflPsCDLong)     \
+    REAL(DeflPsEDShort) REAL(DeflPsEDLong) REAL(NetDeflCDShort) REAL(NetDeflCDLong)                \
+    REAL(NetDeflEDShort) REAL(NetDeflEDLong) REAL(ShearCDBase) REAL(ShearForceCDShort)             \
+    REAL(ShearForceCDLong) REAL(ShearForceEDShort) REAL(ShearForceEDLong) REAL(ShearCDShort)       \
+    REAL(ShearCDLong) REAL(ShearEDShort) REAL(ShearEDLong) REAL(ExcessBotCDShort)                  \
+    REAL(ExcessBotCDLong) REAL(ExcessTopCDShort) REAL(ExcessTopCDLong) REAL(ExcessDeflCDShort)     \
+    REAL(ExcessDeflCDLong) REAL(ExcessShearCDShort) REAL(ExcessShearCDLong)                        \
+    REAL(ExcessBotEDShort) REAL(ExcessBotEDLong) REAL(ExcessTopEDShort) REAL(ExcessTopEDLong)      \
+    REAL(ExcessDeflEDShort) REAL(ExcessDeflEDLong) REAL(ExcessShearEDShort)                        \
+    REAL(ExcessShearEDLong)                                                                        \
+    /* Tendon tallies of the ribbed foundation */                                                  \
+    REAL(TendonJackForce) INT16(TendonEndAllowance) REAL(TendonLength) REAL(SlabTenSpacingShort)   \
+    REAL(SlabTenSpacingLong)                                                                       \
+    /* Uniform thickness foundation: section, tendons and prestress */                             \
+    REAL(EquivSlabThick) REAL(UTThickness) REAL(UTAreaShort) REAL(UTAreaLong) REAL(UTInertiaShort) \
+    REAL(UTInertiaLong) REAL(UTSecModShort) REAL(UTSecModLong) REAL(UTConcreteVolume)              \
+    REAL(UTSlabWeight) REAL(UTFrictionShort) REAL(UTFrictionLong) REAL(UTReqForceShort)            \
+    REAL(UTReqForceLong) INT16(UTTotalTenShort) INT16(UTTotalTenLong) REAL(UTTenSpacingShort)      \
+    REAL(UTTenSpacingLong) INT16(UTTendonEndAllowance) REAL(UTTendonLength) REAL(UTForceShort0)    \
+    REAL(UTForceLong0) REAL(UTPsCenterShort) REAL(UTPsCenterLong) REAL(UTPsHalfShort)              \
+    REAL(UTPsHalfLong) REAL(UTEccShort) REAL(UTEccLong) REAL(UTAllowShearShort)                    \
+    REAL(UTAllowShearLong)                                                                         \
+    /* Uniform thickness foundation on expansive soil */                                           \
+    REAL(UTBetaShort) REAL(UTBetaLong) REAL(UTForceNetShort) REAL(UTForceNetLong)                  \
+    REAL(UTStiffLengthShort) REAL(UTStiffLengthLong) TEXT(UTStiffBasisShort)                       \
+    TEXT(UTStiffBasisLong) REAL(UTReqInertiaCLShort) REAL(UTReqInertiaCLLong)                      \
+    REAL(UTReqInertiaELShort) REAL(UTReqInertiaELLong) REAL(UTShearCLShort) REAL(UTShearCLLong)    \
+    REAL(UTShearELShort) REAL(UTShearELLong) REAL(UTStressTopCLShort) REAL(UTStressTopCLLong)      \
+    REAL(UTStressBotCLShort) REAL(UTStressBotCLLong) REAL(UTStressTopELShort)                      \
+    REAL(UTStressTopELLong) REAL(UTStressBotELShort) REAL(UTStressBotELLong)                       \
+    REAL(UTExcessTopCLShort) REAL(UTExcessTopCLLong) REAL(UTExcessBotCLShort)                      \
+    REAL(UTExcessBotCLLong) REAL(UTExcessTopELShort) REAL(UTExcessTopELLong)                       \
+    REAL(UTExcessBotELShort) REAL(UTExcessBotELLong) REAL(UTExcessStiffCLShort)                    \
+    REAL(UTExcessStiffCLLong) REAL(UTExcessStiffELShort) REAL(UTExcessStiffELLong)                 \
+    REAL(UTExcessShearCLShort) REAL(UTExcessShearCLLong) REAL(UTExcessShearELShort)                \
+    REAL(UTExcessShearELLong) REAL(UTCrackMomentCLLong) REAL(UTCrackMomentCLShort)                 \
+    REAL(UTCrackMomentELLong) REAL(UTCrackMomentELShort) REAL(UTCrackDemandCLLong)                 \
+    REAL(UTCrackDemandCLShort) REAL(UTCrackDemandELLong) REAL(UTCrackDemandELShort)                \
+    REAL(UTCrackForceCLLong) REAL(UTCrackForceCLShort) REAL(UTCrackForceELLong)                    \
+    REAL(UTCrackForceELShort) REAL(UTCrackBlockCLLong) REAL(UTCrackBlockCLShort)                   \
+    REAL(UTCrackBlockELLong) REAL(UTCrackBlockELShort) REAL(UTCrackCapacityCLLong)                 \
+    REAL(UTCrackCapacityCLShort) REAL(UTCrackCapacityELLong) REAL(UTCrackCapacityELShort)          \
+    INT16(UTCrackValidCLLong) INT16(UTCrackValidCLShort) INT16(UTCrackValidELLong)                 \
+    INT16(UTCrackValidELShort) REAL(UTExcessCrackCLLong) REAL(UTExcessCrackCLShort)                \
+    REAL(UTExcessCrackELLong) REAL(UTExcessCrackELShort)                                           \
+    /* Uniform thickness foundation on compressible soil */                                        \
+    REAL(UTBetaCDShort) REAL(UTBetaCDLong) REAL(UTForceNetCDShort) REAL(UTForceNetCDLong)          \
+    REAL(UTStressBotCDShort) REAL(UTStressBotCDLong) REAL(UTStressTopCDShort)                      \
+    REAL(UTStressTopCDLong) REAL(UTStiffLengthCDShort) REAL(UTStiffLengthCDLong)                   \
+    TEXT(UTStiffBasisCDShort) TEXT(UTStiffBasisCDLong) REAL(UTAllowDeflCDShort)                    \
+    REAL(UTAllowDeflCDLong) REAL(UTDeflPsCDShort) REAL(UTDeflPsCDLong) REAL(UTNetDeflCDShort)      \
+    REAL(UTNetDeflCDLong) REAL(UTShearCDShort) REAL(UTShearCDLong) REAL(UTBetaEDShort)             \
+    REAL(UTBetaEDLong) REAL(UTForceNetEDShort) REAL(UTForceNetEDLong) REAL(UTStressBotEDShort)     \
+    REAL(UTStressBotEDLong) REAL(UTStressTopEDShort) REAL(UTStressTopEDLong)                       \
+    REAL(UTStiffLengthEDShort) REAL(UTStiffLengthEDLong) TEXT(UTStiffBasisEDShort)                 \
+    TEXT(UTStiffBasisEDLong) REAL(UTAllowDeflEDShort) REAL(UTAllowDeflEDLong)                      \
+    REAL(UTDeflPsEDShort) REAL(UTDeflPsEDLong) REAL(UTNetDeflEDShort) REAL(UTNetDeflEDLong)        \
+    REAL(UTShearEDShort) REAL(UTShearEDLong) REAL(UTExcessTopCDShort) REAL(UTExcessTopCDLong)      \
+    REAL(UTExcessBotCDShort) REAL(UTExcessBotCDLong) REAL(UTExcessDeflCDShort)                     \
+    REAL(UTExcessDeflCDLong) REAL(UTExcessShearCDShort) REAL(UTExcessShearCDLong)                  \
+    REAL(UTExcessTopEDShort) REAL(UTExcessTopEDLong) REAL(UTExcessBotEDShort)                      \
+    REAL(UTExcessBotEDLong) REAL(UTExcessDeflEDShort) REAL(UTExcessDeflEDLong)                     \
+    REAL(UTExcessShearEDShort) REAL(UTExcessShearEDLong)                                           \
+    /* Line load */                                                                                \
+    REAL(LLPrestress) REAL(LLMoment) REAL(LLStressCompression) REAL(LLStressTension)               \
+    REAL(ExcessLLCompression) REAL(ExcessLLTension) REAL(UTLLPrestress) REAL(UTLLMoment)           \
+    REAL(UTLLStressCompression) REAL(UTLLStressTension) REAL(UTExcessLLCompression)                \
+    REAL(UTExcessLLTension)
 // clang-format on
 
 #define K3_TEXT_MEMBER(name) std::string name;

@@ -40,13 +40,19 @@ TEST(RecordFields, EveryNameOnceWithItsKindAndMember) {
                                      "ProjGeoNum", "ProjGeoDate", "MatLabel", "RectLabel",
                                      "SoilLabel", "DirLineLoad"}));
 
+    EXPECT_EQ(namesOfKind(ResultsRecordFields(), FieldKind::Int16),
+              (std::set<std::string>{
+                  "BeamsShort", "BeamsLong", "TotalTenShort", "TotalTenLong", "Em5ControlLong",
+                  "Em5ControlShort", "CrackValidCLLong", "CrackValidCLShort", "CrackValidELLong",
+                  "CrackValidELShort", "TendonEndAllowance", "UTTotalTenShort", "UTTotalTenLong",
+                  "UTTendonEndAllowance", "UTCrackValidCLLong", "UTCrackValidCLShort",
+                  "UTCrackValidELLong", "UTCrackValidELShort"}));
     EXPECT_EQ(
-        namesOfKind(ResultsRecordFields(), FieldKind::Int16),
-        (std::set<std::string>{"BeamsShort", "BeamsLong", "TotalTenShort", "TotalTenLong",
-                               "Em5ControlLong", "Em5ControlShort", "CrackValidCLLong",
-                               "CrackValidCLShort", "CrackValidELLong", "CrackValidELShort"}));
-    EXPECT_EQ(namesOfKind(ResultsRecordFields(), FieldKind::Text),
-              (std::set<std::string>{"StiffBasisShort", "StiffBasisLong"}));
+        namesOfKind(ResultsRecordFields(), FieldKind::Text),
+        (std::set<std::string>{"StiffBasisShort", "StiffBasisLong", "StiffBasisCDShort",
+                               "StiffBasisCDLong", "StiffBasisEDShort", "StiffBasisEDLong",
+                               "UTStiffBasisShort", "UTStiffBasisLong", "UTStiffBasisCDShort",
+                               "UTStiffBasisCDLong", "UTStiffBasisEDShort", "UTStiffBasisEDLong"}));
 }
 
 TEST(TendonSize, StandardStrandsTakeTheTableAndACustomTendonItsRoundDiameter) {

@@ -243,6 +243,7 @@ TEST(CrackedSection, ACompressibleProjectFirstInARunHasNoDemand) {
     DesignRecord record = meadowbrook();
     record.SoilType = 1;
     record.Settle = 2;
+    record.DefSettle = 960;
     const ResultsRecord r = analysed(record);
     EXPECT_EQ(r.MomentCLLong, 0.0);
     EXPECT_EQ(r.CrackDemandCLLong, 0.0);
