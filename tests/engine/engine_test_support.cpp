@@ -30,3 +30,19 @@ void PrintTo(const DesignRecord& record, std::ostream* out) {
 void PrintTo(const ResultsRecord& results, std::ostream* out) {
     printFields(results, ResultsRecordFields(), out);
 }
+
+void ExpectTenDigits(const ResultsRecord& results, std::initializer_list<NamedValue> expected) {
+    for (const NamedValue& row : expected) {
+        bool found = false;
+        for (const ResultField& field : ResultsRecordFields()) {
+            if (field.name != row.name) {
+                continue;
+            }
+            found = true;
+            const double actual =
+                field.kind == FieldKind::Int16 ? results.*field.int16 : results.*field.real;
+            EXPECT_NEAR(actual, row.value, std::fabs(row.value) * 1e-10) << row.name;
+        }
+        EXPECT_TRUE(found) << row.name;
+    }
+}

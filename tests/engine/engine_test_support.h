@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <ostream>
 
 // A 40 x 60 ft rectangle with a 4 in slab, seven 12 x 24 in beams across the short direction and
@@ -57,6 +58,13 @@ inline DesignRecord SmallRibbedRecord() {
 // doubles evaluated operation by operation.
 #define EXPECT_CLOSE(actual, expected)                                                             \
     EXPECT_NEAR((actual), (expected), std::fabs(expected) * 1e-12 + 1e-300) << #actual
+
+// Expects each named result to agree with its value to 10 significant digits.
+struct NamedValue {
+    const char* name;
+    double value;
+};
+void ExpectTenDigits(const ResultsRecord& results, std::initializer_list<NamedValue> expected);
 
 // Failures show the record fields by name.
 void PrintTo(const DesignRecord& record, std::ostream* out);
