@@ -14,43 +14,15 @@
 // value the tests expect of it was worked out by hand in exact fractions.
 inline DesignRecord SmallRibbedRecord() {
     DesignRecord r;
-    r.Fpc = 3000;
-    r.Ec = 1500000;
-    r.UW = 145;
-    r.Fpu = 270;
-    r.TendType = 2;
-    r.TendArea = 0.153;
-    r.TendDiam = 0.5;
-    r.SlabRefType = 2;
-    r.ForceShort = 0.05;
-    r.ForceLong = 0.05;
-    r.SlabThick = 4;
-    r.RectWidth = 40;
-    r.RectLength = 60;
-    r.QS1 = 7;
-    r.DS1 = 24;
-    r.WS1 = 12;
-    r.TS1 = 1;
-    r.CS1 = 3;
-    r.DS2 = 24;
-    r.WS2 = 12;
-    r.QL1 = 5;
-    r.DL1 = 24;
-    r.WL1 = 12;
-    r.TL1 = 1;
-    r.CL1 = 3;
-    r.DL2 = 24;
-    r.WL2 = 12;
+    r.Fpc = 3000, r.Ec = 1500000, r.UW = 145, r.Fpu = 270;
+    r.TendType = 2, r.TendArea = 0.153, r.TendDiam = 0.5;
+    r.SlabRefType = 2, r.ForceShort = 0.05, r.ForceLong = 0.05;
+    r.SlabThick = 4, r.RectWidth = 40, r.RectLength = 60;
+    r.QS1 = 7, r.DS1 = 24, r.WS1 = 12, r.TS1 = 1, r.CS1 = 3, r.DS2 = 24, r.WS2 = 12;
+    r.QL1 = 5, r.DL1 = 24, r.WL1 = 12, r.TL1 = 1, r.CL1 = 3, r.DL2 = 24, r.WL2 = 12;
     r.BeamSpacing = 1;
-    r.SoilType = 0;
-    r.ExpBearing = 2000;
-    r.CompBearing = 1500;
-    r.Es = 1000;
-    r.SGFC = 0.75;
-    r.ULoad = 40;
-    r.TotalLoad = 1500;
-    r.Subgradetype = 0;
-    r.Prestress = 15;
+    r.SoilType = 0, r.ExpBearing = 2000, r.CompBearing = 1500, r.Es = 1000;
+    r.SGFC = 0.75, r.ULoad = 40, r.TotalLoad = 1500, r.Subgradetype = 0, r.Prestress = 15;
     return r;
 }
 

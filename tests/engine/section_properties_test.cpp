@@ -25,11 +25,7 @@ TEST(SectionProperties, AllowablesAndTheTSectionOfEqualDepthsByHand) {
 
     // Short: 7 beams of 12 x 20 below the slab = 1680 in2; slab 720 x 4 = 2880 in2.
     EXPECT_CLOSE(r.AreaBeamS1, 1680.0);
-    EXPECT_EQ(r.AreaBeamS2, 0.0);
-    EXPECT_CLOSE(r.AreaSlabShort, 2880.0);
     EXPECT_CLOSE(r.AreaShort, 4560.0);
-    EXPECT_CLOSE(r.CgBeamS1, 14.0);
-    EXPECT_CLOSE(r.CgSlab, 2.0);
     // (14 x 1680 + 2 x 2880) / 4560 = 122/19.
     EXPECT_CLOSE(r.CgTopShort, 122.0 / 19.0);
     EXPECT_CLOSE(r.InertiaBeamS1, 56000.0);
@@ -41,7 +37,6 @@ TEST(SectionProperties, AllowablesAndTheTSectionOfEqualDepthsByHand) {
     // Long: 5 beams, slab 480 x 4; centroid 86/13, inertia 25163840/169.
     EXPECT_CLOSE(r.AreaLong, 3120.0);
     EXPECT_CLOSE(r.CgTopLong, 86.0 / 13.0);
-    EXPECT_CLOSE(r.InertiaSlabLong, 2560.0);
     EXPECT_CLOSE(r.InertiaLong, 25163840.0 / 169.0);
 
     // Equal depths: the equivalent depth is that depth and the centroid stays the first one.
@@ -50,7 +45,6 @@ TEST(SectionProperties, AllowablesAndTheTSectionOfEqualDepthsByHand) {
     EXPECT_CLOSE(r.CgBottomShort, 334.0 / 19.0);
     EXPECT_CLOSE(r.SecModBottomShort, 76760000.0 / 6346.0);
     EXPECT_CLOSE(r.SecModTopShort, 76760000.0 / 2318.0);
-    EXPECT_CLOSE(r.CgBottomLong, 226.0 / 13.0);
     EXPECT_CLOSE(r.SecModTopLong, 25163840.0 / 1118.0);
     EXPECT_CLOSE(r.AvgBeamWidthShort, 12.0);
     EXPECT_EQ(r.BeamsShort, 7);
