@@ -81,10 +81,11 @@ void PrintResultsSummary(const std::filesystem::path& project, int version,
     table.pair("Beam spacing used", "ft", r.SpacingShort, r.SpacingLong, 2);
     table.value("Perimeter load (edge lift)", "lb/ft", r.PerimeterLoad, 1);
 
+    // The cracked section rests on the lift moments; it is read on expansive soil only.
     if (record.SoilType == 0) {
         PrintExpansiveSoil(table, settings, r);
+        PrintCrackedSection(table, r);
     }
-    PrintCrackedSection(table, r);
     if (record.SoilType == 1) {
         PrintCompressibleSoil(table, record, r);
     }
