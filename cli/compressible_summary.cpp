@@ -6,11 +6,7 @@ namespace {
 // against its limit, and shear.
 struct SettlementMode {
     const char* title;
-    const char* tensionFibre;
-    const char* compressionFibre;
-    double momentShort, momentLong;
-    double tensionShort, tensionLong, tensionExcessShort, tensionExcessLong;
-    double compressionShort, compressionLong, compressionExcessShort, compressionExcessLong;
+    FibreStressRows stresses;
     double deflectionShort, deflectionLong, allowableShort, allowableLong;
     double deflectionExcessShort, deflectionExcessLong;
     double shearShort, shearLong, shearExcessShort, shearExcessLong;
@@ -18,15 +14,7 @@ struct SettlementMode {
 
 void printSettlementMode(SummaryTable& table, const SettlementMode& mode, const ResultsRecord& r) {
     table.directionsHeading(mode.title);
-    table.pair("Moment", "ft-k/ft", mode.momentShort, mode.momentLong, 3);
-    table.pair(std::string("Stress, ") + mode.tensionFibre + " (tension)", "ksi", mode.tensionShort,
-               mode.tensionLong, 3);
-    table.value("  allowable tension", "ksi", r.AllowTension, 3);
-    table.pair("  excess", "%", mode.tensionExcessShort, mode.tensionExcessLong, 1);
-    table.pair(std::string("Stress, ") + mode.compressionFibre + " (compression)", "ksi",
-               mode.compressionShort, mode.compressionLong, 3);
-    table.value("  allowable compression", "ksi", r.AllowCompression / 1000, 3);
-    table.pair("  excess", "%", mode.compressionExcessShort, mode.compressionExcessLong, 1);
+    PrintFibreStresses(table, mode.stresses, r);
     table.pair("Differential deflection", "in", mode.deflectionShort, mode.deflectionLong, 3);
     table.pair("  allowable", "in", mode.allowableShort, mode.allowableLong, 3);
     table.pair("  excess", "%", mode.deflectionExcessShort, mode.deflectionExcessLong, 1);
@@ -53,29 +41,21 @@ void PrintCompressibleSoil(SummaryTable& table, const DesignRecord& record,
     if (record.CLSettleState != 1) {
         return;
     }
-    printSettlementMode(table,
-                        {"Edge down (em 5 ft, ym the settlement)",
-                         "top",
-                         "bottom",
-                         r.MomentEDShort,
-                         r.MomentEDLong,
-                         r.StressTopEDShort,
-                         r.StressTopEDLong,
-                         r.ExcessTopEDShort,
-                         r.ExcessTopEDLong,
-                         r.StressBotEDShort,
-                         r.StressBotEDLong,
-                         r.ExcessBotEDShort,
-                         r.ExcessBotEDLong,
-                         r.NetDeflEDShort,
-                         r.NetDeflEDLong,
-                         r.AllowDeflEDShort,
-                         r.AllowDeflEDLong,
-                         r.ExcessDeflEDShort,
-                         r.ExcessDeflEDLong,
-                         r.ShearEDShort,
-                         r.ShearEDLong,
-                         r.ExcessShearEDShort,
-                         r.ExcessShearEDLong},
-                        r);
+    printSettlementMode(
+        table,
+        {"Edge down (em 5 ft, ym the settlement)",
+         {"top", "bottom", r.MomentEDShort, r.MomentEDLong, r.StressTopEDShort, r.StressTopEDLong,
+          r.ExcessTopEDShort, r.ExcessTopEDLong, r.StressBotEDShort, r.StressBotEDLong,
+          r.ExcessBotEDShort, r.ExcessBotEDLong},
+         r.NetDeflEDShort,
+         r.NetDeflEDLong,
+         r.AllowDeflEDShort,
+         r.AllowDeflEDLong,
+         r.ExcessDeflEDShort,
+         r.ExcessDeflEDLong,
+         r.ShearEDShort,
+         r.ShearEDLong,
+         r.ExcessShearEDShort,
+         r.ExcessShearEDLong},
+        r);
 }

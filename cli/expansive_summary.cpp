@@ -6,11 +6,7 @@ namespace {
 // the required stiffness and the shear.
 struct LiftMode {
     const char* title;
-    const char* tensionFibre;
-    const char* compressionFibre;
-    double momentShort, momentLong;
-    double tensionShort, tensionLong, tensionExcessShort, tensionExcessLong;
-    double compressionShort, compressionLong, compressionExcessShort, compressionExcessLong;
+    FibreStressRows stresses;
     double reqInertiaShort, reqInertiaLong, stiffExcessShort, stiffExcessLong;
     double shearForceShort, shearForceLong, shearShort, shearLong, shearExcessShort,
         shearExcessLong;
@@ -18,15 +14,7 @@ struct LiftMode {
 
 void printLiftMode(SummaryTable& table, const LiftMode& mode, const ResultsRecord& r) {
     table.directionsHeading(mode.title);
-    table.pair("Moment", "ft-k/ft", mode.momentShort, mode.momentLong, 3);
-    table.pair(std::string("Stress, ") + mode.tensionFibre + " (tension)", "ksi", mode.tensionShort,
-               mode.tensionLong, 3);
-    table.value("  allowable tension", "ksi", r.AllowTension, 3);
-    table.pair("  excess", "%", mode.tensionExcessShort, mode.tensionExcessLong, 1);
-    table.pair(std::string("Stress, ") + mode.compressionFibre + " (compression)", "ksi",
-               mode.compressionShort, mode.compressionLong, 3);
-    table.value("  allowable compression", "ksi", r.AllowCompression / 1000, 3);
-    table.pair("  excess", "%", mode.compressionExcessShort, mode.compressionExcessLong, 1);
+    PrintFibreStresses(table, mode.stresses, r);
     table.pair("Required moment of inertia", "in4", mode.reqInertiaShort, mode.reqInertiaLong, 1);
     table.pair("  excess over actual", "%", mode.stiffExcessShort, mode.stiffExcessLong, 1);
     table.pair("Shear force", "k/ft", mode.shearForceShort, mode.shearForceLong, 3);
@@ -44,6 +32,18 @@ std::string excessText(std::int16_t valid, double excess) {
 }
 
 } // namespace
+
+void PrintFibreStresses(SummaryTable& table, const FibreStressRows& rows, const ResultsRecord& r) {
+    table.pair("Moment", "ft-k/ft", rows.momentShort, rows.momentLong, 3);
+    table.pair(std::string("Stress, ") + rows.tensionFibre + " (tension)", "ksi", rows.tensionShort,
+               rows.tensionLong, 3);
+    table.value("  allowable tension", "ksi", r.AllowTension, 3);
+    table.pair("  excess", "%", rows.tensionExcessShort, rows.tensionExcessLong, 1);
+    table.pair(std::string("Stress, ") + rows.compressionFibre + " (compression)", "ksi",
+               rows.compressionShort, rows.compressionLong, 3);
+    table.value("  allowable compression", "ksi", r.AllowCompression / 1000, 3);
+    table.pair("  excess", "%", rows.compressionExcessShort, rows.compressionExcessLong, 1);
+}
 
 void PrintExpansiveSoil(SummaryTable& table, const EngineSettings& settings,
                         const ResultsRecord& r) {

@@ -1,6 +1,7 @@
 #include "engine/prestress.h"
 
 #include "engine/checked_math.h"
+#include "engine/section_checks.h"
 
 namespace {
 
@@ -25,22 +26,10 @@ void ComputePrestress(const DesignRecord& record, ResultsRecord& results) {
     results.BetaLong = Power(Real(record.Ec) * results.InertiaLong / record.Es, 0.25) / 12;
     results.TendonEffStress = Real(record.Fpu) * 0.7 - record.Prestress;
 
-    // Friction of the manual's method and of the full length drag rests on the weight of the
-    // concrete alone and is the same in both directions.
-    switch (record.Subgradetype) {
-    case 0:
-        results.FrictionShort = Real(record.SGFC) * results.ConcreteWeight / 2;
-        results.FrictionLong = results.FrictionShort;
-        break;
-    case 1:
-        results.FrictionShort = Real(record.SGFC) * results.ConcreteWeight;
-        results.FrictionLong = results.FrictionShort;
-        break;
-    default:
-        results.FrictionShort = record.UDSS;
-        results.FrictionLong = record.UDLS;
-        break;
-    }
+    const SubgradeFriction friction = SubgradeFrictionFor(
+        record.Subgradetype, record.SGFC, results.ConcreteWeight, record.UDSS, record.UDLS);
+    results.FrictionShort = friction.shortDirection;
+    results.FrictionLong = friction.longDirection;
 
     if (record.SlabRefType == 1 || record.SlabRefType == 2) {
         if (record.SlabRefType == 1) {

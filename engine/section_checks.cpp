@@ -38,6 +38,22 @@ StiffnessLength StiffnessLengthFor(Real beta, Real side, const char* sideName) {
     return {side, sideName};
 }
 
+SubgradeFriction SubgradeFrictionFor(std::int16_t subgradetype, Real sgfc, Real concreteWeight,
+                                     double userShort, double userLong) {
+    switch (subgradetype) {
+    case 0: {
+        const double friction = sgfc * concreteWeight / 2;
+        return {friction, friction};
+    }
+    case 1: {
+        const double friction = sgfc * concreteWeight;
+        return {friction, friction};
+    }
+    default:
+        return {userShort, userLong};
+    }
+}
+
 Real ForceAtBeta(std::int16_t subgradetype, Real force0, Real beta, Real friction, Real side,
                  Real userForce) {
     switch (subgradetype) {

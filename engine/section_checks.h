@@ -44,6 +44,16 @@ struct StiffnessLength {
 };
 StiffnessLength StiffnessLengthFor(Real beta, Real side, const char* sideName);
 
+// The maximum subgrade friction of each direction. The manual's method (half the weight) and
+// the full length drag (the whole weight) rest on the weight of the concrete alone and are the
+// same in both directions; any other mode takes the user's values.
+struct SubgradeFriction {
+    double shortDirection;
+    double longDirection;
+};
+SubgradeFriction SubgradeFrictionFor(std::int16_t subgradetype, Real sgfc, Real concreteWeight,
+                                     double userShort, double userLong);
+
 // The tendon force left at Beta from the edge, by the friction mode: the manual's method takes
 // the friction over half the side, the full length drag over the side less Beta, a user value
 // is taken off whole. Not clamped.

@@ -62,20 +62,10 @@ void computeSlabSection(const DesignRecord& record, ResultsRecord& r) {
 void computeSlabPrestress(const DesignRecord& record, ResultsRecord& r) {
     const Real RectWidth = record.RectWidth;
     const Real RectLength = record.RectLength;
-    switch (record.Subgradetype) {
-    case 0:
-        r.UTFrictionShort = Real(record.SGFC) * r.UTSlabWeight / 2;
-        r.UTFrictionLong = r.UTFrictionShort;
-        break;
-    case 1:
-        r.UTFrictionShort = Real(record.SGFC) * r.UTSlabWeight;
-        r.UTFrictionLong = r.UTFrictionShort;
-        break;
-    default:
-        r.UTFrictionShort = record.UDSS;
-        r.UTFrictionLong = record.UDLS;
-        break;
-    }
+    const SubgradeFriction friction = SubgradeFrictionFor(record.Subgradetype, record.SGFC,
+                                                          r.UTSlabWeight, record.UDSS, record.UDLS);
+    r.UTFrictionShort = friction.shortDirection;
+    r.UTFrictionLong = friction.longDirection;
 
     // The slab carries the average prestress of the ribbed section.
     r.UTReqForceShort = Real(r.PsCenterShort) * r.UTAreaShort / 1000;
