@@ -28,17 +28,8 @@ void forcesAtBeta(const DesignRecord& record, const ResultsRecord& r, Real betaS
                                 record.RectWidth, record.UDSM);
     forceNetLong = ForceAtBeta(record.Subgradetype, r.ForceLong0, betaLong, r.FrictionLong,
                                record.RectLength, record.UDLM);
-    if (forceNetShort < 0) {
-        forceNetShort = 0;
-    }
-    if (forceNetLong < 0) {
-        forceNetLong = 0;
-    }
-}
-
-// The camber of the eccentric tendon force over the stiffness length Beta, in.
-Real prestressDeflection(Real ecc, Real force0, Real beta, Real Ec, Real inertia) {
-    return ecc * force0 * Power(beta, 2) * 144 * 1000 / (2 * Ec * inertia);
+    ClampAtZero(forceNetShort);
+    ClampAtZero(forceNetLong);
 }
 
 void centerDown(const EngineSettings& settings, const DesignRecord& record, ResultsRecord& r) {
@@ -99,8 +90,8 @@ void centerDown(const EngineSettings& settings, const DesignRecord& record, Resu
         Settle * Power(NaturalBase, 1.78 - 0.103 * Real(r.EquivDepthLong) - 1.65e-3 * TotalLoad +
                                         3.95e-7 * Power(TotalLoad, 2));
     r.DeflPsCDShort =
-        prestressDeflection(r.EccShort, r.ForceShort0, r.BetaCDShort, Ec, r.InertiaShort);
-    r.DeflPsCDLong = prestressDeflection(r.EccLong, r.ForceLong0, r.BetaCDLong, Ec, r.InertiaLong);
+        PrestressDeflection(r.EccShort, r.ForceShort0, r.BetaCDShort, Ec, r.InertiaShort);
+    r.DeflPsCDLong = PrestressDeflection(r.EccLong, r.ForceLong0, r.BetaCDLong, Ec, r.InertiaLong);
     r.NetDeflCDShort = Real(r.DeflPsCDShort) + r.DeflCDShort;
     r.NetDeflCDLong = Real(r.DeflPsCDLong) + r.DeflCDLong;
     r.ExcessDeflCDShort = Excess(r.NetDeflCDShort, r.AllowDeflCDShort);
@@ -178,8 +169,8 @@ void edgeDown(const EngineSettings& settings, const DesignRecord& record, Result
     r.DeflEDLong = Power(5, 1.296) * Power(TotalLoad, 0.523) * Power(r.SpacingLong, 1.059) *
                    Power(Settle * RectLength, 0.205) / (380 * Power(r.EquivDepthLong, 1.214));
     r.DeflPsEDShort =
-        prestressDeflection(r.EccShort, r.ForceShort0, r.BetaEDShort, Ec, r.InertiaShort);
-    r.DeflPsEDLong = prestressDeflection(r.EccLong, r.ForceLong0, r.BetaEDLong, Ec, r.InertiaLong);
+        PrestressDeflection(r.EccShort, r.ForceShort0, r.BetaEDShort, Ec, r.InertiaShort);
+    r.DeflPsEDLong = PrestressDeflection(r.EccLong, r.ForceLong0, r.BetaEDLong, Ec, r.InertiaLong);
     r.NetDeflEDShort = Real(r.DeflEDShort) - r.DeflPsEDShort;
     r.NetDeflEDLong = Real(r.DeflEDLong) - r.DeflPsEDLong;
     r.ExcessDeflEDShort = Excess(r.NetDeflEDShort, r.AllowDeflEDShort);

@@ -13,12 +13,6 @@ Real slabTendonsFor(Real requiredForce, Real friction, Real tendonCapacity, std:
            quantity2 * Real(tendons2);
 }
 
-void clampAtZero(double& value) {
-    if (value < 0) {
-        value = 0;
-    }
-}
-
 } // namespace
 
 void ComputePrestress(const DesignRecord& record, ResultsRecord& results) {
@@ -49,8 +43,8 @@ void ComputePrestress(const DesignRecord& record, ResultsRecord& results) {
         results.SlabTenShort = record.NumSlabTenShort;
         results.SlabTenLong = record.NumSlabTenLong;
     }
-    clampAtZero(results.SlabTenShort);
-    clampAtZero(results.SlabTenLong);
+    ClampAtZero(results.SlabTenShort);
+    ClampAtZero(results.SlabTenLong);
 
     // Fractional beam tendons are rounded here, and only here.
     results.TotalTenShort = Round16(record.QS1 * Real(record.TS1) + results.SlabTenShort +
@@ -96,12 +90,12 @@ void ComputePrestress(const DesignRecord& record, ResultsRecord& results) {
         results.PsCenterLong = (ForceLong0 - record.UDLS) * 1000 / results.AreaLong;
         break;
     }
-    clampAtZero(results.ForceNetShort);
-    clampAtZero(results.PsHalfShort);
-    clampAtZero(results.PsCenterShort);
-    clampAtZero(results.ForceNetLong);
-    clampAtZero(results.PsHalfLong);
-    clampAtZero(results.PsCenterLong);
+    ClampAtZero(results.ForceNetShort);
+    ClampAtZero(results.PsHalfShort);
+    ClampAtZero(results.PsCenterShort);
+    ClampAtZero(results.ForceNetLong);
+    ClampAtZero(results.PsHalfLong);
+    ClampAtZero(results.PsCenterLong);
 
     // With no tendons at all the count is a token 0.001, so that the centroid comes out 0
     // instead of failing; no force rests on this count.

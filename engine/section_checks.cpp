@@ -14,6 +14,16 @@ Real PrestressTerms::eccentric(Real S) const {
     return (((Real(psCenter) * area) * ecc) / S) / 1000;
 }
 
+void ClampAtZero(double& value) {
+    if (value < 0) {
+        value = 0;
+    }
+}
+
+Real PrestressDeflection(Real ecc, Real force0, Real beta, Real Ec, Real inertia) {
+    return ecc * force0 * Power(beta, 2) * 144 * 1000 / (2 * Ec * inertia);
+}
+
 double Excess(double value, Real allowable) {
     return (Real(value) / allowable - 1) * 100;
 }

@@ -24,6 +24,13 @@ struct PrestressTerms {
     Real eccentric(Real S) const;
 };
 
+// A force or prestress that comes out negative is taken as 0.
+void ClampAtZero(double& value);
+
+// The camber of the eccentric tendon force over the stiffness length Beta, in:
+// e x F x Beta^2 x 144 x 1000 / (2 x Ec x I).
+Real PrestressDeflection(Real ecc, Real force0, Real beta, Real Ec, Real inertia);
+
 // How far `value` exceeds `allowable`, in percent: (value / allowable - 1) x 100.
 double Excess(double value, Real allowable);
 

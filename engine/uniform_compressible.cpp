@@ -7,16 +7,6 @@
 
 namespace {
 
-Real slabPrestressDeflection(Real ecc, Real force0, Real beta, Real Ec, Real inertia) {
-    return ecc * force0 * Power(beta, 2) * 144 * 1000 / (2 * Ec * inertia);
-}
-
-void clampAtZero(double& value) {
-    if (value < 0) {
-        value = 0;
-    }
-}
-
 void centerDown(const EngineSettings& settings, const DesignRecord& record, ResultsRecord& r) {
     const Real RectWidth = record.RectWidth;
     const Real RectLength = record.RectLength;
@@ -37,8 +27,8 @@ void centerDown(const EngineSettings& settings, const DesignRecord& record, Resu
         r.UTForceNetShort = Real(r.UTForceShort0) - record.UDSM;
         r.UTForceNetLong = Real(r.UTForceLong0) - record.UDLM;
     }
-    clampAtZero(r.UTForceNetCDShort);
-    clampAtZero(r.UTForceNetCDLong);
+    ClampAtZero(r.UTForceNetCDShort);
+    ClampAtZero(r.UTForceNetCDLong);
 
     const bool useBeta = settings.UseBeta == 1;
     const PrestressTerms shortTerms{useBeta, r.UTForceNetCDShort, r.UTAreaShort, r.UTEccShort,
@@ -75,10 +65,10 @@ void centerDown(const EngineSettings& settings, const DesignRecord& record, Resu
     r.UTAllowDeflCDShort = Real(r.UTStiffLengthCDShort) * 12 / record.DefSettle;
     r.UTAllowDeflCDLong = Real(r.UTStiffLengthCDLong) * 12 / record.DefSettle;
 
-    r.UTDeflPsCDShort = slabPrestressDeflection(r.UTEccShort, r.UTForceShort0, r.UTBetaCDShort, Ec,
-                                                r.UTInertiaShort);
+    r.UTDeflPsCDShort =
+        PrestressDeflection(r.UTEccShort, r.UTForceShort0, r.UTBetaCDShort, Ec, r.UTInertiaShort);
     r.UTDeflPsCDLong =
-        slabPrestressDeflection(r.UTEccLong, r.UTForceLong0, r.UTBetaCDLong, Ec, r.UTInertiaLong);
+        PrestressDeflection(r.UTEccLong, r.UTForceLong0, r.UTBetaCDLong, Ec, r.UTInertiaLong);
     r.UTNetDeflCDShort = Real(r.DeflCDShort) + r.UTDeflPsCDShort;
     r.UTNetDeflCDLong = Real(r.DeflCDLong) + r.UTDeflPsCDLong;
     r.UTExcessDeflCDShort = Excess(r.UTNetDeflCDShort, r.UTAllowDeflCDShort);
@@ -101,8 +91,8 @@ void edgeDown(const EngineSettings& settings, const DesignRecord& record, Result
                                       r.UTFrictionShort, RectWidth, record.UDSM);
     r.UTForceNetEDLong = ForceAtBeta(record.Subgradetype, r.UTForceLong0, r.UTBetaEDLong,
                                      r.UTFrictionLong, RectLength, record.UDLM);
-    clampAtZero(r.UTForceNetEDShort);
-    clampAtZero(r.UTForceNetEDLong);
+    ClampAtZero(r.UTForceNetEDShort);
+    ClampAtZero(r.UTForceNetEDLong);
 
     const bool useBeta = settings.UseBeta == 1;
     const PrestressTerms shortTerms{useBeta, r.UTForceNetEDShort, r.UTAreaShort, r.UTEccShort,
@@ -132,10 +122,10 @@ void edgeDown(const EngineSettings& settings, const DesignRecord& record, Result
     r.UTAllowDeflEDShort = Real(r.UTStiffLengthEDShort) * 12 / record.DefCLSettle;
     r.UTAllowDeflEDLong = Real(r.UTStiffLengthEDLong) * 12 / record.DefCLSettle;
 
-    r.UTDeflPsEDShort = slabPrestressDeflection(r.UTEccShort, r.UTForceShort0, r.UTBetaEDShort, Ec,
-                                                r.UTInertiaShort);
+    r.UTDeflPsEDShort =
+        PrestressDeflection(r.UTEccShort, r.UTForceShort0, r.UTBetaEDShort, Ec, r.UTInertiaShort);
     r.UTDeflPsEDLong =
-        slabPrestressDeflection(r.UTEccLong, r.UTForceLong0, r.UTBetaEDLong, Ec, r.UTInertiaLong);
+        PrestressDeflection(r.UTEccLong, r.UTForceLong0, r.UTBetaEDLong, Ec, r.UTInertiaLong);
     r.UTNetDeflEDShort = Real(r.DeflEDShort) - r.UTDeflPsEDShort;
     r.UTNetDeflEDLong = Real(r.DeflEDLong) - r.UTDeflPsEDLong;
     r.UTExcessDeflEDShort = Excess(r.UTNetDeflEDShort, r.UTAllowDeflEDShort);

@@ -50,12 +50,8 @@ void ComputeUniformExpansive(const EngineSettings& settings, const DesignRecord&
                                     r.UTFrictionShort, RectWidth, record.UDSM);
     r.UTForceNetLong = ForceAtBeta(record.Subgradetype, r.UTForceLong0, r.UTBetaLong,
                                    r.UTFrictionLong, RectLength, record.UDLM);
-    if (r.UTForceNetShort < 0) {
-        r.UTForceNetShort = 0;
-    }
-    if (r.UTForceNetLong < 0) {
-        r.UTForceNetLong = 0;
-    }
+    ClampAtZero(r.UTForceNetShort);
+    ClampAtZero(r.UTForceNetLong);
 
     const StiffnessLength shortLength = StiffnessLengthFor(r.UTBetaShort, RectWidth, "Width");
     r.UTStiffLengthShort = shortLength.length;

@@ -36,12 +36,6 @@ double slabEccentricity(std::int16_t ribbedTendons, Real ribbedEcc, std::int16_t
     return value < 0 ? -rounded : rounded;
 }
 
-void clampAtZero(double& value) {
-    if (value < 0) {
-        value = 0;
-    }
-}
-
 void computeSlabSection(const DesignRecord& record, ResultsRecord& r) {
     const Real RectWidth = record.RectWidth;
     const Real RectLength = record.RectLength;
@@ -102,10 +96,10 @@ void computeSlabPrestress(const DesignRecord& record, ResultsRecord& r) {
             (Real(r.UTForceShort0) - Real(r.UTFrictionShort) / 2) * 1000 / r.UTAreaShort;
         r.UTPsHalfLong = (Real(r.UTForceLong0) - Real(r.UTFrictionLong) / 2) * 1000 / r.UTAreaLong;
     }
-    clampAtZero(r.UTPsHalfShort);
-    clampAtZero(r.UTPsCenterShort);
-    clampAtZero(r.UTPsHalfLong);
-    clampAtZero(r.UTPsCenterLong);
+    ClampAtZero(r.UTPsHalfShort);
+    ClampAtZero(r.UTPsCenterShort);
+    ClampAtZero(r.UTPsHalfLong);
+    ClampAtZero(r.UTPsCenterLong);
 
     const bool userFriction = record.Subgradetype == 2;
     r.UTAllowShearShort = AllowableShear(

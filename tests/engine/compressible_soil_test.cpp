@@ -26,17 +26,11 @@ DesignRecord riverside() {
     return r;
 }
 
-ResultsRecord analysed(DesignRecord record, EngineSettings settings = {}) {
-    ResultsRecord results;
-    RunDesignEngine(settings, record, results);
-    return results;
-}
-
 } // namespace
 
 // The values come from an independent calculation of the same formulas in 50-digit arithmetic.
 TEST(CompressibleSoil, RiversideExampleAgreesWithAnIndependentCalculation) {
-    ExpectTenDigits(analysed(riverside()), {{"SlabTenShort", 15},
+    ExpectTenDigits(Analysed(riverside()), {{"SlabTenShort", 15},
                                             {"SettleRefShort", 0.018739898136269028},
                                             {"SettleRefLong", 0.029798435208567871},
                                             {"BetaCDShort", 3.7471170077256303},
@@ -67,10 +61,10 @@ TEST(CompressibleSoil, EdgeDownRunsOnlyWhenAskedAndTakesTheSquarePlanRule) {
 
     record.CLSettleState = 1;
     record.RectLength = 39.6; // 39.6 / 36 is exactly 1.1: the short moment stays 63/60
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_CLOSE(r.MomentEDShort, r.MomentEDLong * 63 / 60);
     record.RectLength = 39.59;
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_EQ(r.MomentEDShort, r.MomentEDLong);
 }
 
@@ -78,17 +72,17 @@ TEST(CompressibleSoil, UserFrictionAndTheForcesThatReachTheStresses) {
     DesignRecord record = riverside();
     record.Subgradetype = 2;
     record.UDSS = 30, record.UDLS = 30, record.UDSM = 25, record.UDLM = 35;
-    ResultsRecord r = analysed(record);
+    ResultsRecord r = Analysed(record);
     // The user's force at Beta is taken off whole, whatever Beta is.
     EXPECT_CLOSE(r.ForceNetCDShort, r.ForceShort0 - 25);
     EXPECT_CLOSE(r.ForceNetEDLong, r.ForceLong0 - 35);
 
     // Without UseBeta the forces at Beta are computed but the stresses do not see them.
     record.UDSM = 100;
-    const ResultsRecord other = analysed(record);
+    const ResultsRecord other = Analysed(record);
     EXPECT_NE(other.ForceNetCDShort, r.ForceNetCDShort);
     EXPECT_EQ(other.StressBotCDShort, r.StressBotCDShort);
-    const ResultsRecord beta = analysed(record, EngineSettings{1, 0, 0});
+    const ResultsRecord beta = Analysed(record, EngineSettings{1, 0, 0});
     EXPECT_NE(beta.StressBotCDShort, r.StressBotCDShort);
 }
 

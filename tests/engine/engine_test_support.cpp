@@ -1,5 +1,7 @@
 #include "tests/engine/engine_test_support.h"
 
+#include "engine/analysis_run.h"
+
 namespace {
 template <typename Record>
 void printFields(const Record& record, std::span<const RecordField<Record>> fields,
@@ -45,4 +47,10 @@ void ExpectTenDigits(const ResultsRecord& results, std::initializer_list<NamedVa
         }
         EXPECT_TRUE(found) << row.name;
     }
+}
+
+ResultsRecord Analysed(DesignRecord record, EngineSettings settings) {
+    ResultsRecord results;
+    RunDesignEngine(settings, record, results);
+    return results;
 }

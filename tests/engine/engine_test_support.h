@@ -26,6 +26,9 @@ inline DesignRecord SmallRibbedRecord() {
     return r;
 }
 
+// The whole analysis of `record` into a fresh results record.
+ResultsRecord Analysed(DesignRecord record, EngineSettings settings = {});
+
 // Equal to 12 significant digits: the hand values are exact fractions, the engine's are
 // doubles evaluated operation by operation.
 #define EXPECT_CLOSE(actual, expected)                                                             \

@@ -22,18 +22,12 @@ DesignRecord meadowbrook() {
     return r;
 }
 
-ResultsRecord analysed(DesignRecord record, EngineSettings settings = {}) {
-    ResultsRecord results;
-    RunDesignEngine(settings, record, results);
-    return results;
-}
-
 } // namespace
 
 // The values come from an independent calculation in 50-digit arithmetic of the same formulas,
 // with the equivalent depths found by a root finder instead of a bisection.
 TEST(ExpansiveSoil, MeadowbrookExampleAgreesWithAnIndependentCalculation) {
-    const ResultsRecord r = analysed(meadowbrook(), EngineSettings{0, 0, 1});
+    const ResultsRecord r = Analysed(meadowbrook(), EngineSettings{0, 0, 1});
     // em 5.5 ft: A = 0.5, B = 2.2607843; the moment at 5 ft governs both directions.
     EXPECT_EQ(r.Em5ControlLong, 1);
     EXPECT_EQ(r.Em5ControlShort, 1);
@@ -119,11 +113,11 @@ TEST(ExpansiveSoil, CenterLiftCoefficientsAndTheControlAtFiveFeet) {
 TEST(ExpansiveSoil, NearlySquareRectanglesTakeTheLongMomentBothWays) {
     DesignRecord record = meadowbrook();
     record.RectLength = 44; // 44 / 40 is exactly 1.1, which is not below it
-    ResultsRecord r = analysed(record);
+    ResultsRecord r = Analysed(record);
     EXPECT_NE(r.MomentCLShort, r.MomentCLLong);
     EXPECT_NE(r.MomentELShort, r.MomentELLong);
     record.RectLength = 43.99;
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_EQ(r.MomentCLShort, r.MomentCLLong);
     EXPECT_EQ(r.MomentELShort, r.MomentELLong);
     EXPECT_EQ(r.Em5ControlShort, 1); // as set by the control before the rule
@@ -131,14 +125,14 @@ TEST(ExpansiveSoil, NearlySquareRectanglesTakeTheLongMomentBothWays) {
 
 TEST(ExpansiveSoil, StiffnessLengthAndAllowableShear) {
     DesignRecord record = meadowbrook();
-    ResultsRecord r = analysed(record);
+    ResultsRecord r = Analysed(record);
     // Six Beta exactly the width is not below it: the width, by name.
     record.RectWidth = r.BetaShort * 6;
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_EQ(r.StiffLengthShort, record.RectWidth);
     EXPECT_EQ(r.StiffBasisShort, "Width");
     record.RectWidth = r.BetaShort * 6 + 0.01;
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_EQ(r.StiffLengthShort, r.BetaShort * 6);
     EXPECT_EQ(r.StiffBasisShort, "6*Beta");
 
@@ -154,7 +148,7 @@ TEST(ExpansiveSoil, StiffnessLengthAndAllowableShear) {
     record.NumSlabTenShort = 6;
     record.Subgradetype = 2;
     record.UDSS = 1000;
-    EXPECT_NEAR(analysed(record).AllowShearShort, 93.112834775878241, 1e-12);
+    EXPECT_NEAR(Analysed(record).AllowShearShort, 93.112834775878241, 1e-12);
 }
 
 TEST(ExpansiveSoil, EdgeLiftShearIsOneEquationCenterLiftTwo) {
@@ -162,7 +156,7 @@ TEST(ExpansiveSoil, EdgeLiftShearIsOneEquationCenterLiftTwo) {
     record.RectLength = 40;
     record.QS1 = 4, record.QS2 = 2;
     record.SMin = 6, record.SMax = 12;
-    const ResultsRecord r = analysed(record);
+    const ResultsRecord r = Analysed(record);
     EXPECT_EQ(r.EquivDepthShort, r.EquivDepthLong);
     EXPECT_EQ(r.ShearForceELShort, r.ShearForceELLong);
     EXPECT_NE(r.ShearForceCLShort, r.ShearForceCLLong);
@@ -170,7 +164,7 @@ TEST(ExpansiveSoil, EdgeLiftShearIsOneEquationCenterLiftTwo) {
 
 TEST(CrackedSection, SectionsWithoutTensionTendonsAndTheMixedShortCondition) {
     DesignRecord record = meadowbrook();
-    ResultsRecord r = analysed(record);
+    ResultsRecord r = Analysed(record);
     // No slab tendons: the center lift capacity cannot be calculated; the excess stays.
     record.SlabRefType = 0;
     const double excessBefore = r.ExcessCrackCLShort;
@@ -183,7 +177,7 @@ TEST(CrackedSection, SectionsWithoutTensionTendonsAndTheMixedShortCondition) {
     // equivalent depth, lever arm the full depth: 2 tendons x 174 x 0.153 = 53.244 kips,
     // block 53.244 / (2.55 x 720) in.
     record.TS1 = 0, record.TL2 = 0;
-    r = analysed(record);
+    r = Analysed(record);
     const double block = 53.244 / (2.55 * 720);
     EXPECT_CLOSE(r.CrackBlockELShort, block);
     EXPECT_CLOSE(r.CrackCapacityELShort, (r.EquivDepthShort - block / 2) * (53.244 / 12));
@@ -192,7 +186,7 @@ TEST(CrackedSection, SectionsWithoutTensionTendonsAndTheMixedShortCondition) {
     // formula divides zero by zero.
     record.TS2 = 0, record.TL2 = 1;
     try {
-        analysed(record);
+        Analysed(record);
         ADD_FAILURE() << "no fault";
     } catch (const EngineFault& fault) {
         EXPECT_EQ(fault.kind(), FaultKind::Overflow);
@@ -200,7 +194,7 @@ TEST(CrackedSection, SectionsWithoutTensionTendonsAndTheMixedShortCondition) {
     }
     // Without any beam tendons there is nothing to divide.
     record.TL1 = 0, record.TL2 = 0;
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_EQ(r.CrackValidELShort, 0);
     EXPECT_EQ(r.CrackValidELLong, 0);
 }
@@ -210,7 +204,7 @@ TEST(CrackedSection, ACompressibleProjectFirstInARunHasNoDemand) {
     record.SoilType = 1;
     record.Settle = 2;
     record.DefSettle = 960;
-    const ResultsRecord r = analysed(record);
+    const ResultsRecord r = Analysed(record);
     EXPECT_EQ(r.MomentCLLong, 0.0);
     EXPECT_EQ(r.CrackDemandCLLong, 0.0);
     EXPECT_EQ(r.CrackValidCLLong, 1);
@@ -222,7 +216,7 @@ TEST(ExpansiveSoil, ZeroPerimeterLoadInEdgeLiftFaultsInStageSix) {
     DesignRecord record = meadowbrook();
     record.TotalLoad = 0;
     try {
-        analysed(record);
+        Analysed(record);
         ADD_FAILURE() << "no fault";
     } catch (const EngineFault& fault) {
         EXPECT_EQ(fault.kind(), FaultKind::DivisionByZero);

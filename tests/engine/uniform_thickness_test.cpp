@@ -31,17 +31,11 @@ DesignRecord hilltop() {
     return r;
 }
 
-ResultsRecord analysed(DesignRecord record, EngineSettings settings = {}) {
-    ResultsRecord results;
-    RunDesignEngine(settings, record, results);
-    return results;
-}
-
 } // namespace
 
 // The values come from an independent calculation of the same formulas in 50-digit arithmetic.
 TEST(UniformThickness, HilltopExampleAgreesWithAnIndependentCalculation) {
-    ExpectTenDigits(analysed(hilltop()), {{"TotalTenShort", 30},
+    ExpectTenDigits(Analysed(hilltop()), {{"TotalTenShort", 30},
                                           {"EccShort", -2.2703175326674996},
                                           {"TendonLength", 4594},
                                           {"SlabTenSpacingShort", 4},
@@ -86,7 +80,7 @@ TEST(UniformThickness, ADirectionWithoutTendonsOnTheManualsFriction) {
     DesignRecord record = hilltop();
     record.Subgradetype = 0;
     record.TS1 = 0, record.NumSlabTenShort = 0; // no short tendons at all
-    ResultsRecord r = analysed(record);
+    ResultsRecord r = Analysed(record);
     EXPECT_EQ(r.UTTotalTenShort, 0);
     EXPECT_EQ(r.UTFrictionShort, 0.0);
     EXPECT_EQ(r.UTForceShort0, 0.0);
@@ -99,7 +93,7 @@ TEST(UniformThickness, ADirectionWithoutTendonsOnTheManualsFriction) {
 
     // With full length drag the same direction still gets a tendon.
     record.Subgradetype = 1;
-    EXPECT_GE(analysed(record).UTTotalTenShort, 1);
+    EXPECT_GE(Analysed(record).UTTotalTenShort, 1);
 }
 
 TEST(UniformThickness, UserFrictionOnCompressibleSoilWritesTheExpansiveForces) {
@@ -124,15 +118,15 @@ TEST(UniformThickness, UserFrictionOnCompressibleSoilWritesTheExpansiveForces) {
 TEST(LineLoad, PrestressAcrossTheLoadAndTheUniformSlabOnlyWithItsAnalysis) {
     DesignRecord record = hilltop();
     record.PreLineLoadType = 0;
-    ResultsRecord r = analysed(record);
+    ResultsRecord r = Analysed(record);
     EXPECT_EQ(r.LLPrestress, r.PsCenterShort); // along the long direction
     EXPECT_EQ(r.UTLLPrestress, r.UTPsCenterShort);
     record.DirLineLoad = "Short Direction";
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_EQ(r.LLPrestress, r.PsCenterLong);
     record.DirLineLoad = "long direction"; // any other text is the short direction
     record.PreLineLoadType = 1;
-    r = analysed(record);
+    r = Analysed(record);
     EXPECT_CLOSE(r.LLPrestress, r.ForceNetLong * 1000 / r.AreaLong);
 
     record.FlatSlab = 0;
@@ -142,7 +136,7 @@ TEST(LineLoad, PrestressAcrossTheLoadAndTheUniformSlabOnlyWithItsAnalysis) {
 
     record.Ks = 0;
     try {
-        analysed(record);
+        Analysed(record);
         ADD_FAILURE() << "no fault";
     } catch (const EngineFault& fault) {
         EXPECT_EQ(fault.kind(), FaultKind::DivisionByZero);
