@@ -1,0 +1,35 @@
+#pragma once
+
+#include "common/styled_text.h"
+#include "engine/design_record.h"
+#include "engine/results_record.h"
+
+#include <cstdint>
+
+// The "Design Compliance" lists: every calculated value held against its limit. Each routine
+// empties its box and lists, by section, the values over their limits in bold red with the
+// percentage by which they exceed it, and counts them. With `showAll` not 0 the values within
+// their limits are listed too, in regular black, and count nothing. Counters are 16-bit and are
+// set to 0 by the caller.
+
+// The ribbed foundation: soil bearing, then center lift and edge lift on expansive soil
+// (`SoilType` 0) or center down and, with `CLSettleState` 1, edge down on compressible soil
+// (`SoilType` 1). Bearing is set to 1 when it fails. The cracked capacity rows of both lift modes
+// count in `cracked`.
+void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
+                      std::int16_t& centerLift, std::int16_t& edgeLift, std::int16_t& centerDown,
+                      std::int16_t& edgeDown, std::int16_t& bearing, std::int16_t& cracked,
+                      std::int16_t showAll, StyledText& box);
+
+// The uniform thickness foundation, headed by the ribbed foundation's compliance
+// (`ribbedOutCount`); its cracked rows count in the center lift and edge lift counters.
+void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
+                       std::int16_t ribbedOutCount, std::int16_t& centerLift,
+                       std::int16_t& edgeLift, std::int16_t& centerDown, std::int16_t& edgeDown,
+                       std::int16_t showAll, StyledText& box);
+
+// The line load, on the ribbed foundation's slab and, with `FlatSlab` 1, on the uniform
+// thickness slab.
+void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
+                        std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
+                        StyledText& box);

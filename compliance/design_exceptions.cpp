@@ -1,0 +1,164 @@
+#include "compliance/design_exceptions.h"
+
+#include "compliance/list_lines.h"
+#include "engine/checked_math.h"
+
+#include <string>
+
+namespace {
+
+struct BeamGroup {
+    std::int16_t quantity;
+    double width;
+    double depth;
+};
+
+// The beam rules that at least one present group (quantity not 0) breaks.
+struct BeamRulesBroken {
+    bool tooNarrow = false;
+    bool tooWide = false;
+    bool tooShallow = false;
+    bool notBelowSlab = false; // less than 7 inches below the bottom of the slab
+};
+
+BeamRulesBroken BeamRulesBrokenBy(const DesignRecord& record) {
+    const BeamGroup groups[] = {{record.QS1, record.WS1, record.DS1},
+                                {record.QS2, record.WS2, record.DS2},
+                                {record.QL1, record.WL1, record.DL1},
+                                {record.QL2, record.WL2, record.DL2}};
+    BeamRulesBroken broken;
+    for (const BeamGroup& group : groups) {
+        if (group.quantity == 0) {
+            continue;
+        }
+        broken.tooNarrow = broken.tooNarrow || group.width < 8;
+        broken.tooWide = broken.tooWide || group.width > 14;
+        broken.tooShallow = broken.tooShallow || group.depth < 11;
+        broken.notBelowSlab = broken.notBelowSlab || record.SlabThick + 7 > group.depth;
+    }
+    return broken;
+}
+
+// The deepest beam depth of one direction over its shallowest. The second group is the deepest
+// only when it is present and deeper than the first; the first group's depth counts as the
+// deepest whether it is present or not. The shallowest is taken from the present groups with a
+// depth.
+Real DepthRatio(std::int16_t quantity1, double depth1, std::int16_t quantity2, double depth2) {
+    double deepest = depth1;
+    if (quantity2 != 0 && depth2 > depth1) {
+        deepest = depth2;
+    }
+    double shallowest = 0;
+    if (depth1 != 0 && quantity1 != 0) {
+        shallowest = depth1;
+    }
+    if (depth2 != 0 && quantity2 != 0) {
+        if (!(shallowest != 0 && depth2 >= shallowest)) {
+            shallowest = depth2;
+        }
+    }
+    return Real(deepest) / shallowest;
+}
+
+void ReportException(StyledText& box, std::int16_t& count,
+                     std::initializer_list<std::string> messages, const std::string& reference) {
+    CountItem(count);
+    for (const std::string& message : messages) {
+        AppendMessageLine(box, message);
+    }
+    AppendReferenceLine(box, reference);
+}
+
+constexpr const char* NoExceptions = "NO PTI EXCEPTIONS EXIST";
+
+} // namespace
+
+void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, std::int16_t& count,
+                      StyledText& box) {
+    Clear(box);
+
+    const BeamRulesBroken beams = BeamRulesBrokenBy(record);
+    if (beams.tooNarrow) {
+        ReportException(box, count,
+                        {"BEAM WIDTHS USED IN ANALYSIS SHALL NOT BE LESS THAN 8 INCHES"},
+                        "(PTI 3rd Edition 4.5.2.3)");
+    }
+    if (beams.tooWide) {
+        ReportException(box, count,
+                        {"BEAM WIDTHS USED IN ANALYSIS SHALL NOT BE GREATER THAN 14 INCHES"},
+                        "(PTI 3rd Edition 4.5.2.3)");
+    }
+    if (beams.tooShallow) {
+        ReportException(box, count, {"BEAM DEPTHS SHALL NOT BE LESS THAN 11 INCHES"},
+                        "(PTI 3rd Edition 4.5.2.2)");
+    }
+    if (beams.notBelowSlab) {
+        ReportException(box, count,
+                        {"BEAMS MUST EXTEND AT LEAST 7 INCHES BELOW THE BOTTOM OF THE SLAB"},
+                        "(PTI 3rd Edition 4.5.2.2)");
+    }
+
+    const Real ratioShort = DepthRatio(record.QS1, record.DS1, record.QS2, record.DS2);
+    const Real ratioLong = DepthRatio(record.QL1, record.DL1, record.QL2, record.DL2);
+    if (ratioShort > 1.2 || ratioLong > 1.2) {
+        ReportException(box, count,
+                        {"DIFFERENT BEAM DEPTHS USED IN ANALYSIS SHALL NOT HAVE A RATIO BETWEEN",
+                         "THE DEEPEST AND SHALLOWEST BEAM DEPTH EXCEED 1.2"},
+                        "(PTI 3rd Edition 4.5.2.2)");
+    }
+
+    // The spacings used in the analysis, after the six foot rule has lifted them.
+    if (results.SpacingShort > 15 || results.SpacingLong > 15) {
+        ReportException(box, count, {"BEAM SPACING SHALL BE A MAXIMUM OF 15 FEET"},
+                        "(PTI 3rd Edition 4.5.2.1)");
+    }
+    if ((results.SpacingShort < 6 || results.SpacingLong < 6) && record.SixFtRule == 0) {
+        ReportException(box, count, {"BEAM SPACING USED IN ANALYSIS SHALL BE A MINIMUM OF 6 FEET"},
+                        "(PTI 3rd Edition 4.5.2.1)");
+    }
+    // The texts say "greater than", but exactly 50 psi and exactly 2500 psi pass.
+    if (results.PsCenterShort < 50 || results.PsCenterLong < 50) {
+        ReportException(box, count,
+                        {"MINIMUM RESIDUAL PRESTRESS FORCE SHALL BE GREATER THAN 0.05A"},
+                        "(PTI 3rd Edition 6.7)");
+    }
+    if (record.Fpc < 2500) {
+        ReportException(box, count,
+                        {"28-DAY COMPRESSIVE STRENGTH OF CONCRETE SHALL BE GREATER THAN 2500 PSI"},
+                        "(PTI 3rd Edition 7.1)");
+    }
+
+    if (count == 0) {
+        AppendCleanText(box, NoExceptions);
+    }
+}
+
+void UniformExceptions(const DesignRecord& record, const ResultsRecord& results,
+                       std::int16_t& count, std::int16_t& ribbedCount, StyledText& box) {
+    Clear(box);
+
+    if (record.FlatSlab == 1) {
+        // The uniform thickness foundation is derived from the ribbed one: any ribbed exception
+        // makes it invalid, and stands here as one exception that gives their number.
+        if (ribbedCount != 0) {
+            ReportException(
+                box, count,
+                {"UNIFORM THICKNESS FOUNDATION ANALYSIS INVALID SINCE RIBBED FOUNDATION",
+                 "HAS " + std::to_string(ribbedCount) + " PTI EXCEPTIONS"},
+                "(PTI 3rd Edition 4.5.3)");
+        }
+        if (results.UTThickness < 7.5) {
+            ReportException(
+                box, count,
+                {"UNIFORM THICKNESS FOUNDATION SHOULD BE A MINIMUM OF 7.5 INCHES THICK, UNLESS",
+                 "A CONTINUOUS STIFFENING BEAM COMPLYING WITH PTI 3rd EDITION 4.5.22 AND 4.5.2.3",
+                 "IS PROVIDED ALONG THE ENTIRE PERIMETER OF THE FOUNDATION"},
+                "(PTI 3rd Edition 4.5.3)");
+        }
+    }
+
+    if (count == 0) {
+        Clear(box);
+        AppendCleanText(box, NoExceptions);
+    }
+}

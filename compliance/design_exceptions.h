@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common/styled_text.h"
+#include "engine/design_record.h"
+#include "engine/results_record.h"
+
+#include <cstdint>
+
+// The rules of the PTI manual that the geometry and the materials of a design break, apart from
+// the calculated stresses: the lists of the "PTI Exceptions" pages.
+
+// Empties the ribbed exceptions box, adds 1 to `count` per rule broken (however many beam
+// groups break it) and writes the list; "NO PTI EXCEPTIONS EXIST" when nothing is broken. The
+// caller sets `count` to 0 first.
+//
+// The depth ratio divides the deepest beam of a direction by its shallowest; a direction without
+// any beam group that has both depth and quantity has no shallowest beam, and the division
+// throws ArithmeticFault.
+void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, std::int16_t& count,
+                      StyledText& box);
+
+// Writes the uniform thickness foundation's exceptions into its own box. A ribbed foundation
+// with exceptions (`ribbedCount`, as RibbedExceptions left it) makes the uniform thickness
+// analysis derived from it invalid, and counts as one exception here.
+void UniformExceptions(const DesignRecord& record, const ResultsRecord& results,
+                       std::int16_t& count, std::int16_t& ribbedCount, StyledText& box);

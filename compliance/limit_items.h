@@ -1,0 +1,54 @@
+#pragma once
+
+#include "common/styled_text.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+// One value held against its limit, as a row of a compliance list. Every comparison allows
+// equality.
+enum class LimitKind {
+    Tension,     // within when the stress is at least the allowable tension (both negative, ksi)
+    Compression, // within when the allowable compression in psi / 1000 is at least the stress
+    AtMost,      // within when the value is at most the limit: deflection, inertia, shear
+};
+
+struct LimitItem {
+    const char* label;
+    double value;
+    double limit;
+    LimitKind kind;
+    double excess; // percent by which the value exceeds the limit
+};
+
+bool WithinLimit(const LimitItem& item);
+
+// The item's text: its label, then the excess in "#,##0.0", then "%".
+std::string ItemText(const char* label, double excess);
+
+// Lists the items of one section: each one over its limit in bold red, counted in `counter`;
+// each one within it in regular black, only when `showAll` is on.
+void ListItems(StyledText& box, std::span<const LimitItem> items, std::int16_t& counter,
+               bool showAll);
+
+// A cracked moment capacity row: the 0.9 moment (demand) against the capacity, with the flag that
+// tells whether the capacity could be calculated.
+struct CrackedItem {
+    const char* label;
+    const char* notCalculated; // the whole text of the row when the capacity is missing
+    double demand;
+    double capacity;
+    std::int16_t valid;
+    double excess;
+};
+
+// Center lift: the flag is looked at only for a row over its limit, whose text it chooses.
+// Gives whether the row counts.
+bool ListCenterLiftCracked(StyledText& box, const CrackedItem& item, bool showAll);
+// Edge lift: a capacity that could not be calculated is listed and counts, whatever the demand.
+// Gives whether the row counts.
+bool ListEdgeLiftCracked(StyledText& box, const CrackedItem& item, bool showAll);
+
+// The closing line of a section none of whose items is over its limit, when not all are shown.
+void CloseSection(StyledText& box, bool anyOver, bool showAll);
