@@ -1,5 +1,5 @@
 # Korvath 3: everything a newcomer needs on a fresh Debian 12 machine.
-#   make run    install what is missing, build, and analyse the bundled examples
+#   make run    install what is missing, build, and analyse and check the bundled examples
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
 #   make bench  time the analysis and the project files
 
@@ -38,6 +38,7 @@ build: configure
 run: build
 	@for project in $(EXAMPLES); do \
 	  $(CLI) analyze "$$project" || exit $$?; echo; \
+	  $(CLI) check "$$project" || exit $$?; echo; \
 	done
 
 test: build test-asan

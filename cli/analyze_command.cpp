@@ -1,42 +1,14 @@
 #include "cli/analyze_command.h"
 
 #include "cli/exit_status.h"
+#include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/record_json.h"
 #include "cli/results_summary.h"
 #include "engine/analysis_run.h"
-#include "engine/tendon_size.h"
 
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <ostream>
-
-namespace {
-
-// A fault met before the first stage, while the record is made ready (the diameter of a custom
-// tendon), is reported as stage 0.
-constexpr int BeforeFirstStage = 0;
-
-struct RunOutcome {
-    std::optional<FaultKind> faultKind;
-    int faultStage = 0;
-};
-
-RunOutcome analyse(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results) {
-    try {
-        ApplyTendonSize(record);
-    } catch (const ArithmeticFault& fault) {
-        return {fault.kind, BeforeFirstStage};
-    }
-    try {
-        RunDesignEngine(settings, record, results);
-    } catch (const EngineFault& fault) {
-        return {fault.kind(), fault.stage()};
-    }
-    return {};
-}
-
-} // namespace
 
 int RunAnalyzeCommand(const AnalyzeOptions& options, std::ostream& out, std::ostream& err) {
     std::optional<LoadedProject> loaded = LoadProject(options.project, err);
@@ -45,7 +17,7 @@ int RunAnalyzeCommand(const AnalyzeOptions& options, std::ostream& out, std::ost
     }
     DesignRecord& record = loaded->record;
     ResultsRecord results;
-    const RunOutcome outcome = analyse(options.settings, record, results);
+    const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
 
     if (options.json) {
         nlohmann::ordered_json document;

@@ -13,10 +13,10 @@ std::string soilName(const DesignRecord& record) {
 
 } // namespace
 
-void PrintResultsSummary(const std::filesystem::path& project, int version,
-                         const EngineSettings& settings, const DesignRecord& record,
-                         const ResultsRecord& r, std::ostream& out) {
-    out << "Korvath 3.0 analysis of " << project.string();
+void PrintProjectHeading(const std::string& title, const std::filesystem::path& project,
+                         int version, const EngineSettings& settings, const DesignRecord& record,
+                         std::ostream& out) {
+    out << "Korvath 3.0 " << title << " of " << project.string();
     if (version != 3) {
         out << " (read from a version " << version << " file)";
     }
@@ -34,6 +34,12 @@ void PrintResultsSummary(const std::filesystem::path& project, int version,
         << " ft, slab " << FixedNumber(record.SlabThick, 2) << " in, " << soilName(record) << '\n';
     out << "Options:    UseBeta " << settings.UseBeta << ", UseBeamOnly " << settings.UseBeamOnly
         << ", ShowDD " << settings.ShowDD << '\n';
+}
+
+void PrintResultsSummary(const std::filesystem::path& project, int version,
+                         const EngineSettings& settings, const DesignRecord& record,
+                         const ResultsRecord& r, std::ostream& out) {
+    PrintProjectHeading("analysis", project, version, settings, record, out);
 
     SummaryTable table(out);
     table.heading("Allowable stresses");

@@ -24,18 +24,6 @@ CommandRun analyze(const std::filesystem::path& project, bool json, EngineSettin
     return {status, out.str(), err.str()};
 }
 
-// The example with one line changed: line `index` (counted from 0) replaced by `text`.
-std::string withLine(const std::string& bytes, std::size_t index, const std::string& text) {
-    std::string result;
-    std::size_t start = 0;
-    for (std::size_t line = 0; start < bytes.size(); ++line) {
-        const std::size_t end = bytes.find("\r\n", start) + 2;
-        result += line == index ? text + "\r\n" : bytes.substr(start, end - start);
-        start = end;
-    }
-    return result;
-}
-
 } // namespace
 
 TEST(AnalyzeCommand, JsonNamesEveryFieldAndResultWithNumbersThatReadBackExactly) {

@@ -20,6 +20,18 @@ inline void WriteBytes(const std::filesystem::path& path, const std::string& byt
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
+// The example with one line changed: line `index` (counted from 0) replaced by `text`.
+inline std::string withLine(const std::string& bytes, std::size_t index, const std::string& text) {
+    std::string result;
+    std::size_t start = 0;
+    for (std::size_t line = 0; start < bytes.size(); ++line) {
+        const std::size_t end = bytes.find("\r\n", start) + 2;
+        result += line == index ? text + "\r\n" : bytes.substr(start, end - start);
+        start = end;
+    }
+    return result;
+}
+
 // A folder of its own for one test, removed afterwards.
 class ScratchFolder {
   public:

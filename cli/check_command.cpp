@@ -1,0 +1,89 @@
+#include "cli/check_command.h"
+
+#include "cli/compliance_json.h"
+#include "cli/compliance_listing.h"
+#include "cli/exit_status.h"
+#include "cli/project_analysis.h"
+#include "cli/project_loading.h"
+#include "cli/results_summary.h"
+#include "compliance/compliance_pass.h"
+#include "engine/analysis_run.h"
+
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <ostream>
+#include <string>
+
+namespace {
+
+// Where a check ended before its lists were complete.
+struct CheckFault {
+    FaultKind kind;
+    // An analysis stage, or nothing for the depth ratio of the design exceptions.
+    std::optional<int> stage;
+};
+
+std::string FaultText(const CheckFault& fault) {
+    std::string text = FaultKindName(fault.kind);
+    if (fault.stage) {
+        text += " in stage " + std::to_string(*fault.stage) + " (" +
+                AnalysisStageName(*fault.stage) + ")";
+    } else {
+        text += " in the beam depth ratio of the design exceptions: a direction has no beam "
+                "group with both a depth and a quantity";
+    }
+    return text;
+}
+
+} // namespace
+
+int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream& err) {
+    std::optional<LoadedProject> loaded = LoadProject(options.project, err);
+    if (!loaded) {
+        return ExitFileError;
+    }
+    DesignRecord& record = loaded->record;
+    ResultsRecord results;
+
+    std::optional<CheckFault> fault;
+    std::optional<CompliancePass> pass;
+    const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
+    if (outcome.faultKind) {
+        fault = CheckFault{*outcome.faultKind, outcome.faultStage};
+    } else {
+        const std::int16_t showAll = options.showAll ? 1 : 0;
+        try {
+            pass = RunCompliancePass(record, results, {showAll, showAll, showAll});
+        } catch (const ArithmeticFault& exceptionsFault) {
+            fault = CheckFault{exceptionsFault.kind, std::nullopt};
+        }
+    }
+
+    if (options.json) {
+        nlohmann::ordered_json document;
+        document["version"] = loaded->version;
+        document["fault"] = nullptr;
+        if (fault) {
+            document["fault"] = {{"kind", FaultKindName(fault->kind)}};
+            document["fault"]["stage"] =
+                fault->stage ? nlohmann::ordered_json(*fault->stage) : nullptr;
+        }
+        if (pass) {
+            AddCompliancePassJson(record, *pass, document);
+        } else {
+            // Lists of a run that faulted would be incomplete and are not shown.
+            for (const char* key : {"exceptions", "compliance", "RibbedOutCount", "summary"}) {
+                document[key] = nullptr;
+            }
+        }
+        out << document.dump(2) << '\n';
+    } else if (fault) {
+        err << "korvath3-cli: the check of " << options.project.string()
+            << " ended in a fault: " << FaultText(*fault) << ". No lists are given.\n";
+    } else {
+        PrintProjectHeading("compliance check", options.project, loaded->version, options.settings,
+                            record, out);
+        PrintCompliancePass(record, *pass, options.colour, out);
+    }
+    return fault ? ExitEngineFault : ExitAnalysed;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "compliance/compliance_pass.h"
+#include "engine/design_record.h"
+
+#include <nlohmann/json.hpp>
+
+// The runs of a box in the order they were appended, each {"text", "bold", "red", "size",
+// "centred"}, the text with its tabs and line ends as they stand.
+nlohmann::ordered_json StyledTextJson(const StyledText& box);
+
+// Adds the exception lists, the compliance lists, `RibbedOutCount` and the summary lines to
+// `document`; a list the results screen would not make for this project is null.
+void AddCompliancePassJson(const DesignRecord& record, const CompliancePass& pass,
+                           nlohmann::ordered_json& document);
