@@ -4,7 +4,7 @@
 #   make bench  time the analysis and the project files
 
 PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
-            nlohmann-json3-dev libcli11-dev
+            nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation
 EXAMPLES := $(wildcard examples/*.kvt)
 CLI := build/bin/korvath3-cli
 
