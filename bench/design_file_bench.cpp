@@ -1,7 +1,7 @@
 // Reading and writing a whole project file.
 
 #include "common/date_text.h"
-#include "shell/factory_defaults.h"
+#include "shell/load_settings.h"
 #include "storage/design_file.h"
 
 #include <benchmark/benchmark.h>
@@ -13,7 +13,7 @@ namespace {
 const std::string examplePath = std::string(K3_SOURCE_DIR) + "/examples/expansive_ribbed.kvt";
 
 void BM_ReadDesignFile(benchmark::State& state) {
-    const DesignRecord defaults = FactoryDefaultRecord(LongDateText(2026, 11, 23));
+    const DesignRecord defaults = FirstStartDefaultRecord(LongDateText(2026, 11, 23));
     for (auto _ : state) {
         DesignRecord record = defaults;
         benchmark::DoNotOptimize(
@@ -22,7 +22,7 @@ void BM_ReadDesignFile(benchmark::State& state) {
 }
 
 void BM_WriteDesignFile(benchmark::State& state) {
-    const DesignRecord defaults = FactoryDefaultRecord(LongDateText(2026, 11, 23));
+    const DesignRecord defaults = FirstStartDefaultRecord(LongDateText(2026, 11, 23));
     DesignRecord record = defaults;
     ReadDesignFile(examplePath, AllSections, record, defaults, nullptr);
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / "korvath3-bench";

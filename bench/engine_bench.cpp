@@ -3,7 +3,7 @@
 #include "common/date_text.h"
 #include "engine/analysis_run.h"
 #include "engine/tendon_size.h"
-#include "shell/factory_defaults.h"
+#include "shell/load_settings.h"
 #include "storage/design_file.h"
 
 #include <benchmark/benchmark.h>
@@ -12,7 +12,7 @@
 namespace {
 
 DesignRecord exampleRecord(const std::string& name) {
-    const DesignRecord defaults = FactoryDefaultRecord(LongDateText(2026, 11, 23));
+    const DesignRecord defaults = FirstStartDefaultRecord(LongDateText(2026, 11, 23));
     DesignRecord record = defaults;
     ReadDesignFile(std::string(K3_SOURCE_DIR) + "/examples/" + name + ".kvt", AllSections, record,
                    defaults, nullptr);

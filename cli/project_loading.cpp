@@ -1,7 +1,7 @@
 #include "cli/project_loading.h"
 
 #include "common/date_text.h"
-#include "shell/factory_defaults.h"
+#include "shell/load_settings.h"
 #include "storage/design_file.h"
 #include "storage/file_error.h"
 
@@ -9,7 +9,7 @@
 #include <ostream>
 
 std::optional<LoadedProject> LoadProject(const std::filesystem::path& path, std::ostream& err) {
-    const DesignRecord defaults = FactoryDefaultRecord(TodayLongDateText());
+    const DesignRecord defaults = FirstStartDefaultRecord(TodayLongDateText());
     LoadedProject loaded{defaults, 0};
     const auto tell = [&](const OldVersionNotice& notice) {
         std::string text = notice.text;

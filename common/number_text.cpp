@@ -1,5 +1,7 @@
 #include "common/number_text.h"
 
+#include "common/run_time_error.h"
+
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -95,4 +97,58 @@ NumberParse ParseGeneralNumber(std::string_view text, double& value) {
     }
     value = parsed;
     return NumberParse::Ok;
+}
+
+double LeadingNumberValue(std::string_view text) {
+    std::string compact;
+    for (const char c : text) {
+        if (c != ' ' && c != '\t' && c != '\n' && c != '\r') {
+            compact += c;
+        }
+    }
+    auto isDigit = [&](std::size_t at) {
+        return at < compact.size() && compact[at] >= '0' && compact[at] <= '9';
+    };
+    std::size_t end = 0;
+    if (end < compact.size() && (compact[end] == '+' || compact[end] == '-')) {
+        ++end;
+    }
+    std::size_t digits = 0;
+    for (; isDigit(end); ++end) {
+        ++digits;
+    }
+    if (end < compact.size() && compact[end] == '.') {
+        ++end;
+        for (; isDigit(end); ++end) {
+            ++digits;
+        }
+    }
+    if (digits == 0) {
+        return 0.0;
+    }
+    // An exponent counts only with at least one digit: "1e" is 1.
+    if (end < compact.size() && std::string_view("EeDd").find(compact[end]) != std::string::npos) {
+        std::size_t at = end + 1;
+        if (at < compact.size() && (compact[at] == '+' || compact[at] == '-')) {
+            ++at;
+        }
+        if (isDigit(at)) {
+            for (end = at; isDigit(end); ++end) {
+            }
+        }
+    }
+    double value = 0.0;
+    if (ParseGeneralNumber(std::string_view(compact).substr(0, end), value) ==
+        NumberParse::OutOfRange) {
+        throw RunTimeError(6);
+    }
+    return value;
+}
+
+std::int16_t RoundedInt16(double value) {
+    const double rounded = std::nearbyint(value); // the default rounding: to nearest, ties to even
+    if (!(rounded >= -32768.0 && rounded <= 32767.0)) {
+        throw RunTimeError(6);
+    }
+    return static_cast<std::int16_t>(rounded);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,3 +17,14 @@ std::string GeneralNumberText(double value);
 // range of a double.
 enum class NumberParse { Ok, NotANumber, OutOfRange };
 NumberParse ParseGeneralNumber(std::string_view text, double& value);
+
+// The value of the leading numeric part of a text, as the settings store's numbers are read:
+// blanks, tabs and line feeds are passed over, then an optional sign, digits with an optional
+// decimal point and an optional exponent are taken as far as they go. "12.5 ft" is 12.5; empty
+// or non-numeric text is 0. A number beyond the range of a double throws RunTimeError 6
+// (overflow).
+double LeadingNumberValue(std::string_view text);
+
+// A value rounded to the nearest whole number, ties to even, as a 16-bit integer. Outside the
+// 16-bit range throws RunTimeError 6 (overflow).
+std::int16_t RoundedInt16(double value);

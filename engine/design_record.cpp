@@ -15,3 +15,12 @@ const auto designFields = std::to_array<DesignField>(
 std::span<const DesignField> DesignRecordFields() {
     return designFields;
 }
+
+const DesignField* FindDesignField(std::string_view name) {
+    for (const DesignField& field : designFields) {
+        if (field.name == name) {
+            return &field;
+        }
+    }
+    return nullptr;
+}

@@ -64,6 +64,9 @@ using DesignField = RecordField<DesignRecord>;
 // Every field of the design record, in the order of the input pages.
 std::span<const DesignField> DesignRecordFields();
 
+// The field of that exact name, or nothing.
+const DesignField* FindDesignField(std::string_view name);
+
 // Settings of the program that change what the analysis computes. They belong to the options,
 // not to a project.
 struct EngineSettings {

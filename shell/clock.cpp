@@ -1,0 +1,7 @@
+#include "shell/clock.h"
+
+#include "common/date_text.h"
+
+std::string SystemClock::TodayLongDate() const {
+    return TodayLongDateText();
+}

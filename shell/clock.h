@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+// Today's date as the program needs it, replaceable in tests.
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    // Today in the pattern "mmmm d, yyyy", as in "November 23, 2026".
+    virtual std::string TodayLongDate() const = 0;
+};
+
+// The machine's local clock.
+class SystemClock : public Clock {
+  public:
+    std::string TodayLongDate() const override;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A screen as a set of named controls with their state, free of any toolkit. A view binds its
+// widgets to controls by the same name ("txtFpc", "optTendType(3)"); the model's rules change
+// the state and the view draws it.
+struct Control {
+    std::string name{};
+    std::string caption{};
+    std::string text{};
+    bool enabled = true;
+    bool visible = true;
+    bool checked = false;             // check boxes and option buttons
+    int selectedIndex = -1;           // lists
+    std::vector<std::string> items{}; // lists
+    int tabIndex = 0;
+    bool tabStop = true;
+};
+
+class FormModel {
+  public:
+    // Adds a control; names are unique within a form.
+    Control& add(Control control);
+    // The control of that name; an unknown name is a programming error and throws
+    // std::out_of_range.
+    Control& operator[](std::string_view name);
+    const Control& operator[](std::string_view name) const;
+    bool has(std::string_view name) const;
+    const std::vector<Control>& controls() const { return m_controls; }
+
+  private:
+    std::vector<Control> m_controls;
+};
+
+// The name of element `index` of a control array: "optTendType(3)".
+std::string ArrayName(std::string_view array, int index);
+
+// The first checked button of the option group `group(0)` to `group(count - 1)`, probed in
+// index order, or -1 when none is.
+int SelectedOption(const FormModel& form, std::string_view group, int count);
+
+// Checks button `index` of the group and clears the others.
+void SelectOption(FormModel& form, std::string_view group, int count, int index);
