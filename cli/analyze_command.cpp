@@ -11,7 +11,7 @@
 #include <ostream>
 
 int RunAnalyzeCommand(const AnalyzeOptions& options, std::ostream& out, std::ostream& err) {
-    std::optional<LoadedProject> loaded = LoadProject(options.project, err);
+    std::optional<LoadedProject> loaded = LoadProject(options.project, options.defaults, err);
     if (!loaded) {
         return ExitFileError;
     }

@@ -38,7 +38,7 @@ std::string FaultText(const CheckFault& fault) {
 } // namespace
 
 int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream& err) {
-    std::optional<LoadedProject> loaded = LoadProject(options.project, err);
+    std::optional<LoadedProject> loaded = LoadProject(options.project, options.defaults, err);
     if (!loaded) {
         return ExitFileError;
     }

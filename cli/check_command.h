@@ -1,6 +1,8 @@
 #pragma once
 
+#include "common/date_text.h"
 #include "engine/design_record.h"
+#include "shell/load_settings.h"
 
 #include <filesystem>
 #include <iosfwd>
@@ -11,6 +13,8 @@ struct CheckOptions {
     // Run the input value checks before the analysis; off runs the record as it stands.
     bool check = true;
     EngineSettings settings;
+    // The record a new project starts from, for the fields an older file lacks.
+    DesignRecord defaults = FirstStartDefaultRecord(TodayLongDateText());
     // List the values within their limits too, on all three compliance pages.
     bool showAll = false;
     // Bold and red by terminal escapes.

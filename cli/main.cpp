@@ -3,33 +3,76 @@
 #include "cli/analyze_command.h"
 #include "cli/check_command.h"
 #include "cli/exit_status.h"
+#include "cli/new_command.h"
+#include "cli/stderr_dialogs.h"
 #include "cli/upgrade_command.h"
+#include "common/run_time_error.h"
+#include "shell/load_settings.h"
+#include "shell/program_folder.h"
+#include "shell/qt/ini_settings_store.h"
 
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <unistd.h>
 
 namespace {
 
+// The program options of an analysis given on the command line; those not given come from the
+// settings store.
+struct SettingsFlags {
+    std::optional<std::int16_t> useBeta;
+    std::optional<std::int16_t> useBeamOnly;
+    std::optional<std::int16_t> showDD;
+
+    EngineSettings over(const ProgramOptions& stored) const {
+        return {useBeta.value_or(stored.UseBeta), useBeamOnly.value_or(stored.UseBeamOnly),
+                showDD.value_or(stored.ShowDD)};
+    }
+};
+
 // The options that `analyze` and `check` share: the project, JSON output, the program options
 // of the analysis and the input checks.
 void AddRunOptions(CLI::App& command, std::filesystem::path& project, bool& json,
-                   EngineSettings& settings, bool& noCheck) {
+                   SettingsFlags& flags, bool& noCheck) {
     command.add_option("PROJECT", project, "Project file (.kvt)")->required();
     command.add_flag("--json", json, "Print one JSON object");
-    command.add_option("--use-beta", settings.UseBeta, "Stresses from the force at Beta (0 or 1)")
+    command
+        .add_option("--use-beta", flags.useBeta,
+                    "Stresses from the force at Beta (0 or 1); default from the settings")
         ->check(CLI::IsMember({0, 1}));
     command
-        .add_option("--use-beam-only", settings.UseBeamOnly,
-                    "Bearing on the beam bottoms alone (0 or 1)")
+        .add_option("--use-beam-only", flags.useBeamOnly,
+                    "Bearing on the beam bottoms alone (0 or 1); default from the settings")
         ->check(CLI::IsMember({0, 1}));
     command
-        .add_option("--show-dd", settings.ShowDD,
-                    "Also the differential deflection analysis (0 or 1)")
+        .add_option("--show-dd", flags.showDD,
+                    "Also the differential deflection analysis (0 or 1); default from the "
+                    "settings")
         ->check(CLI::IsMember({0, 1}));
     command.add_flag("--no-check", noCheck,
                      "Run the analysis on the record as it stands, without input checks");
+}
+
+// Reads the settings store as the desktop program does at its start, so that both work from
+// the same options and default record. A value missing from the store is written with its
+// default.
+std::optional<ProgramSettings> LoadProgramSettings() {
+    IniSettingsStore store(SettingsFilePath());
+    StreamDialogs dialogs(std::cerr);
+    SystemClock clock;
+    ShellServices services{store, dialogs, clock, ProgramFolder().string()};
+    ProgramSettings settings;
+    try {
+        LoadSettings(services, settings);
+    } catch (const RunTimeError& error) {
+        std::cerr << "korvath3-cli: Korvath Critical Error" << error.number()
+                  << ": A critical error occurred initializing Korvath (" << error.description()
+                  << " in " << SettingsFilePath().string() << ")\n";
+        return std::nullopt;
+    }
+    return settings;
 }
 
 // Bold and red only on a terminal, and not when the user has asked for no colour.
@@ -44,16 +87,18 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
 
     AnalyzeOptions analyze;
+    SettingsFlags analyzeFlags;
     bool analyzeNoCheck = false;
     CLI::App* analyzeCommand =
         app.add_subcommand("analyze", "Analyse a project and print the results");
-    AddRunOptions(*analyzeCommand, analyze.project, analyze.json, analyze.settings, analyzeNoCheck);
+    AddRunOptions(*analyzeCommand, analyze.project, analyze.json, analyzeFlags, analyzeNoCheck);
 
     CheckOptions check;
+    SettingsFlags checkFlags;
     bool checkNoCheck = false;
     CLI::App* checkCommand = app.add_subcommand(
         "check", "Analyse a project and print its PTI exceptions and design compliance");
-    AddRunOptions(*checkCommand, check.project, check.json, check.settings, checkNoCheck);
+    AddRunOptions(*checkCommand, check.project, check.json, checkFlags, checkNoCheck);
     checkCommand->add_flag("--show-all", check.showAll, "List the values within their limits too");
 
     std::filesystem::path upgradeInput;
@@ -63,6 +108,15 @@ int main(int argc, char** argv) {
     upgradeCommand->add_option("OLD", upgradeInput, "Project file of any version")->required();
     upgradeCommand->add_option("-o,--output", upgradeOutput, "New project file")->required();
 
+    std::string newKind;
+    std::filesystem::path newOutput;
+    CLI::App* newCommand =
+        app.add_subcommand("new", "Write a new project from the default record of the settings");
+    newCommand->add_option("--kind", newKind, "expansive, compressible or lineload")
+        ->required()
+        ->check(CLI::IsMember({"expansive", "compressible", "lineload"}));
+    newCommand->add_option("-o,--output", newOutput, "New project file")->required();
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -70,14 +124,28 @@ int main(int argc, char** argv) {
         return status == 0 ? ExitAnalysed : ExitBadUsage;
     }
 
+    const std::optional<ProgramSettings> settings = LoadProgramSettings();
+    if (!settings) {
+        return ExitFileError;
+    }
     if (*analyzeCommand) {
         analyze.check = !analyzeNoCheck;
+        analyze.settings = analyzeFlags.over(settings->options);
+        analyze.defaults = settings->defaults;
         return RunAnalyzeCommand(analyze, std::cout, std::cerr);
     }
     if (*checkCommand) {
         check.check = !checkNoCheck;
+        check.settings = checkFlags.over(settings->options);
+        check.defaults = settings->defaults;
         check.colour = ColourOnStandardOutput();
         return RunCheckCommand(check, std::cout, std::cerr);
     }
-    return RunUpgradeCommand(upgradeInput, upgradeOutput, std::cerr);
+    if (*newCommand) {
+        const ProjectKind kind = newKind == "compressible" ? ProjectKind::Compressible
+                                 : newKind == "lineload"   ? ProjectKind::LineLoad
+                                                           : ProjectKind::Expansive;
+        return RunNewCommand(kind, newOutput, settings->defaults, std::cerr);
+    }
+    return RunUpgradeCommand(upgradeInput, upgradeOutput, settings->defaults, std::cerr);
 }

@@ -1,15 +1,13 @@
 #include "cli/project_loading.h"
 
-#include "common/date_text.h"
-#include "shell/load_settings.h"
 #include "storage/design_file.h"
 #include "storage/file_error.h"
 
 #include <algorithm>
 #include <ostream>
 
-std::optional<LoadedProject> LoadProject(const std::filesystem::path& path, std::ostream& err) {
-    const DesignRecord defaults = FirstStartDefaultRecord(TodayLongDateText());
+std::optional<LoadedProject> LoadProject(const std::filesystem::path& path,
+                                         const DesignRecord& defaults, std::ostream& err) {
     LoadedProject loaded{defaults, 0};
     const auto tell = [&](const OldVersionNotice& notice) {
         std::string text = notice.text;

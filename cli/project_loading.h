@@ -11,7 +11,8 @@ struct LoadedProject {
     int version = 0;
 };
 
-// Reads a whole project over the record a new project starts from, so that fields an older file
-// lacks take their defaults. Notices of an older version and a file error, with its number and
-// description, are written to `err`; an error gives nothing.
-std::optional<LoadedProject> LoadProject(const std::filesystem::path& path, std::ostream& err);
+// Reads a whole project over `defaults`, the record a new project starts from, so that fields an
+// older file lacks take their defaults. Notices of an older version and a file error, with its
+// number and description, are written to `err`; an error gives nothing.
+std::optional<LoadedProject> LoadProject(const std::filesystem::path& path,
+                                         const DesignRecord& defaults, std::ostream& err);

@@ -8,8 +8,8 @@
 #include <ostream>
 
 int RunUpgradeCommand(const std::filesystem::path& input, const std::filesystem::path& output,
-                      std::ostream& err) {
-    const std::optional<LoadedProject> loaded = LoadProject(input, err);
+                      const DesignRecord& defaults, std::ostream& err) {
+    const std::optional<LoadedProject> loaded = LoadProject(input, defaults, err);
     if (!loaded) {
         return ExitFileError;
     }

@@ -1,11 +1,18 @@
 #pragma once
 
+#include "shell/load_settings.h"
+
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
 #include <unistd.h>
+
+// The record a fresh settings store gives a new project.
+inline DesignRecord Defaults() {
+    return FirstStartDefaultRecord("November 23, 2026");
+}
 
 inline std::filesystem::path ExamplePath(const std::string& name) {
     return std::filesystem::path(K3_SOURCE_DIR) / "examples" / name;

@@ -13,10 +13,12 @@ struct Outcome {
     std::string out;
 };
 
-// Runs korvath3-cli with `arguments` through the shell, standard error joined to the output.
-Outcome cli(const std::string& arguments) {
-    const std::string command =
-        std::string(K3_BINARY_DIR) + "/bin/korvath3-cli " + arguments + " 2>&1";
+// Runs korvath3-cli with `arguments` through the shell, standard error joined to the output,
+// with its settings in `settings` so that no test touches the user's own.
+Outcome cli(const std::filesystem::path& settings, const std::string& arguments) {
+    const std::string command = "KORVATH3_SETTINGS='" + settings.string() + "' " +
+                                std::string(K3_BINARY_DIR) + "/bin/korvath3-cli " + arguments +
+                                " 2>&1";
     FILE* pipe = popen(command.c_str(), "r");
     std::string out;
     char buffer[4096];
@@ -30,6 +32,9 @@ Outcome cli(const std::string& arguments) {
 } // namespace
 
 TEST(Executable, ExitStatusTellsAnalysedBadUsageAndFileError) {
+    ScratchFolder scratch;
+    const auto settings = scratch.path() / "settings.conf";
+    const auto cli = [&](const std::string& arguments) { return ::cli(settings, arguments); };
     const std::string example = ExamplePath("uniform_line_load.kvt").string();
     Outcome run = cli("analyze '" + example + "' --use-beta 1 --no-check");
     EXPECT_EQ(run.status, 0) << run.out;
@@ -47,7 +52,6 @@ TEST(Executable, ExitStatusTellsAnalysedBadUsageAndFileError) {
     EXPECT_NE(run.out.find("76: Path not found"), std::string::npos) << run.out;
 
     // A binary file is taken for a version 1 project and fails in reading, without a crash.
-    ScratchFolder scratch;
     std::string binary;
     for (int i = 0; i < 4096; ++i) {
         binary += static_cast<char>((i * 7919) % 256);
@@ -56,4 +60,35 @@ TEST(Executable, ExitStatusTellsAnalysedBadUsageAndFileError) {
     run = cli("analyze '" + (scratch.path() / "binary.kvt").string() + "' --json");
     EXPECT_EQ(run.status, 2) << run.out;
     EXPECT_NE(run.out.find("Opening Korvath Win 1.x file"), std::string::npos);
+}
+
+TEST(Executable, OptionsAndNewProjectsComeFromTheSettingsStore) {
+    ScratchFolder scratch;
+    const auto settings = scratch.path() / "settings.conf";
+    const std::string example = ExamplePath("expansive_ribbed.kvt").string();
+    // The first run writes every default; ShowDD is never written.
+    Outcome run = cli(settings, "analyze '" + example + "'");
+    EXPECT_NE(run.out.find("Options:    UseBeta 0, UseBeamOnly 0, ShowDD 0"), std::string::npos);
+    std::string stored = FileBytes(settings);
+    EXPECT_EQ(stored.find("ShowDD"), std::string::npos);
+
+    // The stored options count unless a flag says otherwise.
+    const std::string programData = "[Program%20Data]\n";
+    stored.replace(stored.find(programData), programData.size(), programData + "ShowDD=1\n");
+    stored.replace(stored.find("UseBeta=0"), 9, "UseBeta=1");
+    stored.replace(stored.find("Fpc=3000"), 8, "Fpc=4500");
+    WriteBytes(settings, stored);
+    run = cli(settings, "analyze '" + example + "' --use-beta 0");
+    EXPECT_NE(run.out.find("Options:    UseBeta 0, UseBeamOnly 0, ShowDD 1"), std::string::npos)
+        << run.out;
+
+    // A new project starts from the stored default record.
+    const auto project = scratch.path() / "new.kvt";
+    EXPECT_EQ(cli(settings, "new --kind compressible -o '" + project.string() + "'").status, 0);
+    EXPECT_EQ(cli(settings, "new --kind clay -o '" + project.string() + "'").status, 1);
+    run = cli(settings, "analyze '" + project.string() + "' --json --no-check");
+    const std::string json = run.out.substr(run.out.find('{'));
+    EXPECT_NE(json.find("\"Fpc\": 4500"), std::string::npos);
+    EXPECT_NE(json.find("\"SoilType\": 1"), std::string::npos);
+    EXPECT_NE(json.find("\"ProjDate\": \""), std::string::npos);
 }

@@ -10,7 +10,7 @@ TEST(UpgradeCommand, CurrentExamplesComeBackByteForByte) {
          {"expansive_ribbed.kvt", "compressible_edge_down.kvt", "uniform_line_load.kvt"}) {
         std::ostringstream err;
         const auto output = scratch.path() / name;
-        ASSERT_EQ(RunUpgradeCommand(ExamplePath(name), output, err), 0) << err.str();
+        ASSERT_EQ(RunUpgradeCommand(ExamplePath(name), output, Defaults(), err), 0) << err.str();
         EXPECT_EQ(err.str(), "");
         EXPECT_EQ(FileBytes(output), FileBytes(ExamplePath(name))) << name;
     }
@@ -19,14 +19,16 @@ TEST(UpgradeCommand, CurrentExamplesComeBackByteForByte) {
 TEST(UpgradeCommand, ReadAndWriteFailuresGiveStatusTwoAndKeepTheOldFile) {
     ScratchFolder scratch;
     std::ostringstream err;
-    EXPECT_EQ(RunUpgradeCommand(scratch.path() / "none.kvt", scratch.path() / "out.kvt", err), 2);
+    EXPECT_EQ(
+        RunUpgradeCommand(scratch.path() / "none.kvt", scratch.path() / "out.kvt", Defaults(), err),
+        2);
     EXPECT_NE(err.str().find("53: File not found"), std::string::npos) << err.str();
     EXPECT_FALSE(std::filesystem::exists(scratch.path() / "out.kvt"));
 
     // A folder that does not exist cannot take the new file.
     err.str("");
     EXPECT_EQ(RunUpgradeCommand(ExamplePath("expansive_ribbed.kvt"),
-                                scratch.path() / "no" / "such" / "out.kvt", err),
+                                scratch.path() / "no" / "such" / "out.kvt", Defaults(), err),
               2);
     EXPECT_NE(err.str().find("Error Saving File - 76: Path not found"), std::string::npos)
         << err.str();

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "shell/user_dialogs.h"
+
+#include <ostream>
+
+// Message boxes of the shared logic, written as lines on the error stream.
+class StreamDialogs : public UserDialogs {
+  public:
+    explicit StreamDialogs(std::ostream& err) : m_err(err) {}
+    void ShowMessage(const MessageRequest& message) override {
+        m_err << "korvath3-cli: " << message.title << ": " << message.text << '\n';
+    }
+
+  private:
+    std::ostream& m_err;
+};
