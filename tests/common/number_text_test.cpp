@@ -1,4 +1,5 @@
 #include "common/number_text.h"
+#include "common/run_time_error.h"
 
 #include <gtest/gtest.h>
 
@@ -46,4 +47,20 @@ TEST(ParseGeneralNumber, AcceptsEveryGeneralFormAndRejectsTheRest) {
     double value = 0;
     EXPECT_EQ(ParseGeneralNumber("1e400", value), NumberParse::OutOfRange);
     EXPECT_EQ(ParseGeneralNumber("-1E+309", value), NumberParse::OutOfRange);
+}
+
+TEST(LeadingNumberValue, TakesTheLeadingNumberAndPassesOverBlanks) {
+    const struct {
+        const char* text;
+        double value;
+    } rows[] = {{"12.5 ft", 12.5}, {" 1 500 000", 1500000}, {"", 0},  {"abc", 0},     {"-.5", -0.5},
+                {"1e", 1},         {"2E3x", 2000},          {"+", 0}, {"3.2.1", 3.2}, {"1D2", 100}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(LeadingNumberValue(row.text), row.value) << row.text;
+    }
+    EXPECT_THROW(LeadingNumberValue("1e400"), RunTimeError);
+    EXPECT_EQ(RoundedInt16(2.5), 2);
+    EXPECT_EQ(RoundedInt16(-3.5), -4);
+    EXPECT_EQ(RoundedInt16(32767.4), 32767);
+    EXPECT_THROW(RoundedInt16(32767.5), RunTimeError);
 }
