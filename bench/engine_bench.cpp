@@ -1,6 +1,7 @@
 // The analysis of each bundled example, from the record read once.
 
 #include "common/date_text.h"
+#include "compliance/compliance_pass.h"
 #include "engine/analysis_run.h"
 #include "engine/tendon_size.h"
 #include "shell/load_settings.h"
@@ -44,3 +45,16 @@ void BM_RunDesignEngine_UniformLineLoad(benchmark::State& state) {
 BENCHMARK(BM_RunDesignEngine_ExpansiveRibbed);
 BENCHMARK(BM_RunDesignEngine_CompressibleEdgeDown);
 BENCHMARK(BM_RunDesignEngine_UniformLineLoad);
+
+// The compliance and exception lists of the uniform example with every row shown: the most
+// rows any example makes.
+void BM_RunCompliancePass_UniformLineLoadShowAll(benchmark::State& state) {
+    DesignRecord record = exampleRecord("uniform_line_load");
+    ResultsRecord results;
+    RunDesignEngine(EngineSettings{}, record, results);
+    for (auto _ : state) {
+        CompliancePass pass = RunCompliancePass(record, results, {1, 1, 1});
+        benchmark::DoNotOptimize(pass);
+    }
+}
+BENCHMARK(BM_RunCompliancePass_UniformLineLoadShowAll);
