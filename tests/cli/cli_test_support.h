@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/load_settings.h"
+#include "tests/test_files.h"
 
 #include <filesystem>
 #include <fstream>
@@ -18,15 +19,6 @@ inline std::filesystem::path ExamplePath(const std::string& name) {
     return std::filesystem::path(K3_SOURCE_DIR) / "examples" / name;
 }
 
-inline std::string FileBytes(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
 // The example with one line changed: line `index` (counted from 0) replaced by `text`.
 inline std::string withLine(const std::string& bytes, std::size_t index, const std::string& text) {
     std::string result;
@@ -38,20 +30,3 @@ inline std::string withLine(const std::string& bytes, std::size_t index, const s
     }
     return result;
 }
-
-// A folder of its own for one test, removed afterwards.
-class ScratchFolder {
-  public:
-    ScratchFolder() {
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        m_path = std::filesystem::temp_directory_path() /
-                 ("korvath3-cli-" + std::string(test->name()) + "-" + std::to_string(getpid()));
-        std::filesystem::remove_all(m_path);
-        std::filesystem::create_directories(m_path);
-    }
-    ~ScratchFolder() { std::filesystem::remove_all(m_path); }
-    const std::filesystem::path& path() const { return m_path; }
-
-  private:
-    std::filesystem::path m_path;
-};

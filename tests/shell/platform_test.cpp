@@ -3,31 +3,13 @@
 #include "shell/qt/ini_settings_store.h"
 
 #include "shell_test_support.h"
+#include "tests/test_files.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
-#include <unistd.h>
-
-namespace {
-
-std::filesystem::path ScratchFolder(const std::string& name) {
-    const auto folder = std::filesystem::temp_directory_path() /
-                        ("korvath3-shell-" + name + "-" + std::to_string(getpid()));
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder);
-    return folder;
-}
-
-std::string FileText(const std::filesystem::path& path) {
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-} // namespace
 
 TEST(IniSettingsStore, KeepsEverySectionInItsFileAcrossStarts) {
-    const auto folder = ScratchFolder("ini");
+    ScratchFolder scratch;
+    const auto& folder = scratch.path();
     const auto file = folder / "Brellin Works" / "Korvath3.conf";
     RecordingDialogs dialogs;
     FixedClock clock("November 23, 2026");
@@ -42,7 +24,7 @@ TEST(IniSettingsStore, KeepsEverySectionInItsFileAcrossStarts) {
         SetValue(store, key, "ProjName", "Lot 14, Phase 2 = \"A\"");
         CloseKey(store, key);
     }
-    const std::string text = FileText(file);
+    const std::string text = FileBytes(file);
     EXPECT_NE(text.find("[DefMatProp]"), std::string::npos) << text;
     EXPECT_EQ(text.find("ShowDD"), std::string::npos);
 
@@ -60,7 +42,6 @@ TEST(IniSettingsStore, KeepsEverySectionInItsFileAcrossStarts) {
     ProgramSettings empty;
     LoadSettings(blockedServices, empty);
     EXPECT_EQ(empty.defaults.Fpc, 0);
-    std::filesystem::remove_all(folder);
 }
 
 TEST(SettingsFilePath, TheVariableNamesTheFileElseTheUserConfigurationFolder) {
@@ -78,15 +59,15 @@ TEST(SettingsFilePath, TheVariableNamesTheFileElseTheUserConfigurationFolder) {
 }
 
 TEST(AssociateFileType, WritesTheMimeTypeAndTheDesktopEntry) {
-    const auto folder = ScratchFolder("association");
+    ScratchFolder scratch;
+    const auto& folder = scratch.path();
     const FileAssociation files = AssociateFileType(folder, "/opt/Korvath 3/bin/korvath3");
-    const std::string mime = FileText(files.mimePackage);
+    const std::string mime = FileBytes(files.mimePackage);
     EXPECT_NE(mime.find("<mime-type type=\"application/x-korvath3-project\">"), std::string::npos);
     EXPECT_NE(mime.find("<comment>Korvath3 Document</comment>"), std::string::npos);
     EXPECT_NE(mime.find("<glob pattern=\"*.kvt\"/>"), std::string::npos);
-    const std::string entry = FileText(files.desktopEntry);
+    const std::string entry = FileBytes(files.desktopEntry);
     EXPECT_NE(entry.find("Exec=\"/opt/Korvath 3/bin/korvath3\" %f\n"), std::string::npos) << entry;
     EXPECT_NE(entry.find("MimeType=application/x-korvath3-project;\n"), std::string::npos);
     EXPECT_EQ(files.desktopEntry, folder / "applications" / "korvath3.desktop");
-    std::filesystem::remove_all(folder);
 }
