@@ -18,6 +18,10 @@ struct Control {
     std::vector<std::string> items{}; // lists
     int tabIndex = 0;
     bool tabStop = true;
+    std::string toolTip{};
+    int maxLength = 0; // text boxes: 0 is no limit
+    int selStart = 0;  // text boxes: the selection
+    int selLength = 0;
 };
 
 class FormModel {
@@ -30,6 +34,12 @@ class FormModel {
     const Control& operator[](std::string_view name) const;
     bool has(std::string_view name) const;
     const std::vector<Control>& controls() const { return m_controls; }
+
+    // The control that has the focus, by name; empty when none has.
+    std::string focus{};
+    // Set when a validation message sends the focus to a field, so that the field's whole text
+    // is selected when it gets the focus; cleared by that focus.
+    bool focusFromError = false;
 
   private:
     std::vector<Control> m_controls;

@@ -1,0 +1,1 @@
+#include "input/blank_fields.h"

@@ -1,0 +1,1 @@
+#include "input/record_values.h"

@@ -1,0 +1,1 @@
+#include "input/variable_information.h"
