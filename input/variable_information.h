@@ -3,6 +3,8 @@
 #include "common/styled_text.h"
 #include "engine/design_record.h"
 
+#include <string_view>
+
 // The explanations of the "More Information" panel of the input screen, one procedure a page.
 // A topic is the variable under the user's right click; topic 99 is the page's general topic,
 // shown when the page is selected. Defaults shown are those of the default record (the settings
@@ -22,3 +24,7 @@ StyledText MoreInfoLLProp(int topic, const DesignRecord& defaults);
 
 // The topic of page `page` (1 to 7); any other page gives an empty text.
 StyledText MoreInfoForPage(int page, int topic, const DesignRecord& defaults);
+
+// The most characters the text field of the record named `field` (such as "ProjName") takes on
+// the input screen, as its topic states it; 0 for a field that is not free text.
+int MaxTextLength(std::string_view field);
