@@ -11,6 +11,9 @@ class StreamDialogs : public UserDialogs {
     void ShowMessage(const MessageRequest& message) override {
         m_err << "korvath3-cli: " << message.title << ": " << message.text << '\n';
     }
+    // The command line chooses its files by arguments; a file dialog is cancelled.
+    std::optional<std::string> ShowOpenDialog(const FileDialogRequest&) override { return {}; }
+    std::optional<std::string> ShowSaveDialog(const FileDialogRequest&) override { return {}; }
 
   private:
     std::ostream& m_err;

@@ -11,9 +11,27 @@ std::string LongDateText(int year, int month, int day) {
     return std::string(name) + " " + std::to_string(day) + ", " + std::to_string(year);
 }
 
-std::string TodayLongDateText() {
+namespace {
+
+std::tm LocalToday() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
+    return local;
+}
+
+} // namespace
+
+std::string TodayLongDateText() {
+    const std::tm local = LocalToday();
     return LongDateText(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
+}
+
+std::string ShortDateText(int year, int month, int day) {
+    return std::to_string(month) + "/" + std::to_string(day) + "/" + std::to_string(year);
+}
+
+std::string TodayShortDateText() {
+    const std::tm local = LocalToday();
+    return ShortDateText(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
 }

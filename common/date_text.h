@@ -8,3 +8,9 @@ std::string LongDateText(int year, int month, int day);
 
 // Today's date on this machine's local clock, in the same pattern.
 std::string TodayLongDateText();
+
+// A date in the short form "m/d/yyyy": month and day without leading zeros, as in "11/23/2026".
+std::string ShortDateText(int year, int month, int day);
+
+// Today's date on this machine's local clock, in the short form.
+std::string TodayShortDateText();

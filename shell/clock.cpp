@@ -5,3 +5,7 @@
 std::string SystemClock::TodayLongDate() const {
     return TodayLongDateText();
 }
+
+std::string SystemClock::TodayShortDate() const {
+    return TodayShortDateText();
+}

@@ -8,10 +8,13 @@ class Clock {
     virtual ~Clock() = default;
     // Today in the pattern "mmmm d, yyyy", as in "November 23, 2026".
     virtual std::string TodayLongDate() const = 0;
+    // Today in the short form "m/d/yyyy", as in "11/23/2026".
+    virtual std::string TodayShortDate() const = 0;
 };
 
 // The machine's local clock.
 class SystemClock : public Clock {
   public:
     std::string TodayLongDate() const override;
+    std::string TodayShortDate() const override;
 };

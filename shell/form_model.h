@@ -9,6 +9,7 @@
 // the state and the view draws it.
 struct Control {
     std::string name{};
+    std::string parent{}; // the frame or page it stands in; empty for the form itself
     std::string caption{};
     std::string text{};
     bool enabled = true;

@@ -286,6 +286,9 @@ void ShowField(FormModel& form, const DesignRecord& record, std::string_view nam
 
 FormModel MakeOptionsForm() {
     FormModel form;
+    Control tabs = NamedControl("tabOptions");
+    tabs.selectedIndex = 0;
+    form.add(std::move(tabs));
     form.add(NamedControl("dlbDefFilePath"));
     form.add(NamedControl("lblDefFilePath"));
     form.add(NamedControl("cbUseBeta"));

@@ -7,7 +7,8 @@
 // The options form as a model: the program tab, then the seven tabs of the default record, whose
 // controls have the names of the input screen's, so that one blank check serves both.
 //
-// Program tab: `dlbDefFilePath` (its text the chosen folder), `lblDefFilePath`, `cbUseBeta`,
+// The tab strip `tabOptions` (0 the program tab, 1 to 7 the record's tabs). Program tab:
+// `dlbDefFilePath` (its text the chosen folder), `lblDefFilePath`, `cbUseBeta`,
 // `cbUseBeamOnly`, `chkPrintOptions(0..1)`, `chkDR(0..9)`, `cbClear`, `cbRestore`,
 // `cbAssociate`.
 FormModel MakeOptionsForm();

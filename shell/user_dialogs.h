@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 // Message boxes as requests of the program's logic. The desktop program answers them with its
@@ -13,8 +14,21 @@ struct MessageRequest {
     std::string text;
 };
 
+// A common file dialog. The filter is written as the program has always written it: pairs of a
+// description and a pattern separated by "|", as in "Material Prop. (*.kv1) | *.kv1".
+struct FileDialogRequest {
+    std::string title;
+    std::string filter;
+    std::string fileName;         // proposed name, may be empty
+    std::string defaultExtension; // without the point
+    std::string folder;           // the folder it opens in, may be empty
+};
+
 class UserDialogs {
   public:
     virtual ~UserDialogs() = default;
     virtual void ShowMessage(const MessageRequest& message) = 0;
+    // The chosen path, or nothing when the user cancelled.
+    virtual std::optional<std::string> ShowOpenDialog(const FileDialogRequest& request) = 0;
+    virtual std::optional<std::string> ShowSaveDialog(const FileDialogRequest& request) = 0;
 };

@@ -9,3 +9,8 @@ TEST(LongDateText, MonthInFullDayWithoutLeadingZeroFourDigitYear) {
     const std::string today = TodayLongDateText();
     EXPECT_NE(today.find(", 20"), std::string::npos) << today;
 }
+
+TEST(ShortDateText, MonthDayYearWithoutLeadingZeros) {
+    EXPECT_EQ(ShortDateText(2026, 11, 23), "11/23/2026");
+    EXPECT_EQ(ShortDateText(2007, 1, 5), "1/5/2007");
+}

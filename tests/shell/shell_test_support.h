@@ -10,6 +10,7 @@ class FixedClock : public Clock {
   public:
     explicit FixedClock(std::string date) : date(std::move(date)) {}
     std::string TodayLongDate() const override { return date; }
+    std::string TodayShortDate() const override { return "11/23/2026"; }
     std::string date;
 };
 
@@ -17,7 +18,27 @@ class FixedClock : public Clock {
 class RecordingDialogs : public UserDialogs {
   public:
     void ShowMessage(const MessageRequest& message) override { messages.push_back(message); }
+    // File dialogs answer with the next scripted path; an empty script is a cancel.
+    std::optional<std::string> ShowOpenDialog(const FileDialogRequest& request) override {
+        return Answer(request);
+    }
+    std::optional<std::string> ShowSaveDialog(const FileDialogRequest& request) override {
+        return Answer(request);
+    }
     std::vector<MessageRequest> messages;
+    std::vector<FileDialogRequest> fileDialogs;
+    std::vector<std::string> answers;
+
+  private:
+    std::optional<std::string> Answer(const FileDialogRequest& request) {
+        fileDialogs.push_back(request);
+        if (answers.empty()) {
+            return std::nullopt;
+        }
+        std::string path = answers.front();
+        answers.erase(answers.begin());
+        return path;
+    }
 };
 
 // A store in memory, a clock fixed on November 23, 2026 and the program in "/opt/korvath3".

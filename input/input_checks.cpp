@@ -1,0 +1,69 @@
+#include "input/input_checks.h"
+
+#include "input/blank_fields.h"
+#include "input/enabling_rules.h"
+#include "input/record_values.h"
+
+namespace {
+
+void ShowFault(UserDialogs& dialogs, const InputFault& fault) {
+    dialogs.ShowMessage({MessageIcon::Exclamation, InputErrorTitle, fault.message});
+}
+
+} // namespace
+
+void ShowInputError(InputScreen& screen, InputContext& context, const std::string& control,
+                    int tab) {
+    FormModel& form = screen.form;
+    for (int page = 1; page <= InputPageCount; ++page) {
+        form[PageFrame(page)].visible = page == tab;
+    }
+    form["tabInput"].selectedIndex = tab - 1;
+    ClearExpTabStops(form);
+    SetExpTabStops(form, tab, context.record.SoilType);
+    screen.CurrentInputTab = tab;
+    const PageToolTips tips = ToolTipsForPage(tab);
+    form[ArrayName("tlbInput", 1)].toolTip = tips.open;
+    form[ArrayName("tlbInput", 2)].toolTip = tips.save;
+    // The focus arrives at the field after this; its whole text is then selected.
+    form.focus = control;
+    form.focusFromError = true;
+}
+
+void ShowOptionsInputError(FormModel& options, const std::string& control, int tab) {
+    options["tabOptions"].selectedIndex = tab;
+    options.focus = control;
+    options.focusFromError = true;
+}
+
+int CheckBlankFields(InputScreen& screen, InputContext& context, int selector) {
+    const std::optional<InputFault> fault =
+        FindBlankField(screen.form, context.record, selector, false);
+    if (!fault) {
+        return 0;
+    }
+    ShowFault(context.dialogs, *fault);
+    ShowInputError(screen, context, fault->control, fault->tab);
+    return 1;
+}
+
+int CheckOptionsBlankFields(FormModel& options, const DesignRecord& defaults, UserDialogs& dialogs,
+                            int selector) {
+    const std::optional<InputFault> fault = FindBlankField(options, defaults, selector, true);
+    if (!fault) {
+        return 0;
+    }
+    ShowFault(dialogs, *fault);
+    ShowOptionsInputError(options, fault->control, fault->tab);
+    return 1;
+}
+
+bool CheckRecordValues(InputScreen& screen, InputContext& context) {
+    const std::optional<InputFault> fault = FindRecordValueFault(context.record);
+    if (!fault) {
+        return true;
+    }
+    ShowFault(context.dialogs, *fault);
+    ShowInputError(screen, context, fault->control, fault->tab);
+    return false;
+}
