@@ -1,6 +1,7 @@
 #include "cli/analyze_command.h"
 
 #include "cli/exit_status.h"
+#include "cli/input_check.h"
 #include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/record_json.h"
@@ -16,6 +17,12 @@ int RunAnalyzeCommand(const AnalyzeOptions& options, std::ostream& out, std::ost
         return ExitFileError;
     }
     DesignRecord& record = loaded->record;
+    if (options.check) {
+        if (const std::optional<InputFault> fault = FindProjectInputFault(record)) {
+            PrintInputFault(options.project, loaded->version, *fault, options.json, out, err);
+            return ExitInputError;
+        }
+    }
     ResultsRecord results;
     const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
 

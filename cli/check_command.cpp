@@ -3,6 +3,7 @@
 #include "cli/compliance_json.h"
 #include "cli/compliance_listing.h"
 #include "cli/exit_status.h"
+#include "cli/input_check.h"
 #include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/results_summary.h"
@@ -43,6 +44,12 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
         return ExitFileError;
     }
     DesignRecord& record = loaded->record;
+    if (options.check) {
+        if (const std::optional<InputFault> fault = FindProjectInputFault(record)) {
+            PrintInputFault(options.project, loaded->version, *fault, options.json, out, err);
+            return ExitInputError;
+        }
+    }
     ResultsRecord results;
 
     std::optional<CheckFault> fault;

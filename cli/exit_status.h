@@ -6,4 +6,5 @@ enum ExitStatus : int {
     ExitBadUsage = 1,
     ExitFileError = 2,
     ExitEngineFault = 3,
+    ExitInputError = 4,
 };

@@ -15,6 +15,11 @@ void ShowFault(UserDialogs& dialogs, const InputFault& fault) {
 void ShowInputError(InputScreen& screen, InputContext& context, const std::string& control,
                     int tab) {
     FormModel& form = screen.form;
+    // The friction coefficient is checked with the soil but stands on the load page: the user
+    // is taken to the page where the field is.
+    if (const int page = PageOfControl(form, control); page != 0) {
+        tab = page;
+    }
     for (int page = 1; page <= InputPageCount; ++page) {
         form[PageFrame(page)].visible = page == tab;
     }

@@ -14,11 +14,13 @@ struct CommandRun {
     std::string err;
 };
 
-CommandRun analyze(const std::filesystem::path& project, bool json, EngineSettings settings = {}) {
+CommandRun analyze(const std::filesystem::path& project, bool json, EngineSettings settings = {},
+                   bool check = true) {
     AnalyzeOptions options;
     options.project = project;
     options.json = json;
     options.settings = settings;
+    options.check = check;
     std::ostringstream out, err;
     const int status = RunAnalyzeCommand(options, out, err);
     return {status, out.str(), err.str()};
@@ -77,14 +79,32 @@ TEST(AnalyzeCommand, FaultsAndFileErrorsGiveTheirStatusAndNoResults) {
     // A single long beam: QL1 (line 26, from 0) set to 1 and QL2 to 0.
     const auto oneBeam = scratch.path() / "one_beam.kvt";
     WriteBytes(oneBeam, withLine(withLine(example, 26, " 1 "), 27, " 0 "));
+    // The input checks stop it before the analysis, as the program would.
     CommandRun run = analyze(oneBeam, true);
-    EXPECT_EQ(run.status, 3);
+    EXPECT_EQ(run.status, 4);
     auto document = nlohmann::json::parse(run.out);
+    EXPECT_EQ(document["inputError"]["tab"], 4);
+    EXPECT_EQ(document["inputError"]["control"], "txtQL1");
+    EXPECT_EQ(document["inputError"]["message"],
+              "There must be at least 2 beams in the long direction");
+    EXPECT_FALSE(document.contains("results"));
+    run = analyze(oneBeam, false);
+    EXPECT_EQ(run.status, 4);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(run.err.find("There must be at least 2 beams in the long direction (tab 4 \"Beam "
+                           "Properties\", txtQL1)"),
+              std::string::npos)
+        << run.err;
+
+    // Without them the engine meets the single beam and faults.
+    run = analyze(oneBeam, true, {}, false);
+    EXPECT_EQ(run.status, 3);
+    document = nlohmann::json::parse(run.out);
     EXPECT_EQ(document["fault"]["kind"], "division by zero");
     EXPECT_EQ(document["fault"]["stage"], 3);
     EXPECT_TRUE(document["results"].is_null());
 
-    run = analyze(oneBeam, false);
+    run = analyze(oneBeam, false, {}, false);
     EXPECT_EQ(run.status, 3);
     EXPECT_EQ(run.out, "");
     EXPECT_NE(run.err.find("division by zero in stage 3 (soil bearing)"), std::string::npos)

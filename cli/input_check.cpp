@@ -1,0 +1,39 @@
+#include "cli/input_check.h"
+
+#include "engine/checked_math.h"
+#include "engine/tendon_size.h"
+#include "input/input_form.h"
+#include "input/record_values.h"
+
+#include <nlohmann/json.hpp>
+
+std::optional<InputFault> FindProjectInputFault(const DesignRecord& record) {
+    DesignRecord ready = record;
+    try {
+        ApplyTendonSize(ready);
+    } catch (const ArithmeticFault&) {
+        return std::nullopt;
+    }
+    return FindRecordValueFault(ready);
+}
+
+void PrintInputFault(const std::filesystem::path& project, int version, const InputFault& fault,
+                     bool json, std::ostream& out, std::ostream& err) {
+    // The page's caption as the engineer reads it on the tab, with one ampersand.
+    std::string page = PageCaption(fault.tab);
+    for (std::size_t at = page.find("&&"); at != std::string::npos; at = page.find("&&", at + 1)) {
+        page.erase(at, 1);
+    }
+    if (json) {
+        nlohmann::ordered_json document;
+        document["version"] = version;
+        document["inputError"] = {{"tab", fault.tab},
+                                  {"page", page},
+                                  {"control", fault.control},
+                                  {"message", fault.message}};
+        out << document.dump(2) << '\n';
+        return;
+    }
+    err << "korvath3-cli: " << project.string() << " is not analysed: " << fault.message << " (tab "
+        << fault.tab << " \"" << page << "\", " << fault.control << ")\n";
+}
