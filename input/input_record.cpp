@@ -12,45 +12,10 @@
 
 namespace {
 
-// A number typed into a box, as the screen reads it: blanks around it are allowed, anything
-// else that is not a number (an empty box, a second point) is a type mismatch.
-double ScreenNumber(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    const std::string trimmed = first == std::string::npos
-                                    ? std::string()
-                                    : text.substr(first, text.find_last_not_of(' ') - first + 1);
-    double value = 0.0;
-    switch (ParseGeneralNumber(trimmed, value)) {
-    case NumberParse::Ok:
-        return value;
-    case NumberParse::OutOfRange:
-        throw RunTimeError(6);
-    case NumberParse::NotANumber:
-        break;
-    }
-    throw RunTimeError(13);
-}
-
-// Copies one field from its text box or check box.
+// Copies one field from its text box or check box. The blank check has run before, so an
+// empty box is a type mismatch like any other text that is not a number.
 void ReadField(const FormModel& form, DesignRecord& record, std::string_view name) {
-    const DesignField& field = FieldNamed(name);
-    const FieldControl binding = ControlForField(name);
-    if (binding.kind == ControlKind::CheckBox) {
-        record.*field.int16 = form[binding.control].checked ? 1 : 0;
-        return;
-    }
-    const std::string& text = form[binding.control].text;
-    switch (field.kind) {
-    case FieldKind::Text:
-        record.*field.text = text;
-        break;
-    case FieldKind::Int16:
-        record.*field.int16 = RoundedInt16(ScreenNumber(text));
-        break;
-    case FieldKind::Real:
-        record.*field.real = ScreenNumber(text);
-        break;
-    }
+    CopyControlToField(form, record, name, BlankText::TypeMismatch);
 }
 
 void ReadFields(const FormModel& form, DesignRecord& record,

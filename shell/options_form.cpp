@@ -37,57 +37,9 @@ void AddFieldControls(FormModel& form, std::string_view field) {
     }
 }
 
-// A number typed into a text box, as the options form takes it: blank is 0, anything that is
-// not a number is a type mismatch.
-double TypedNumber(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string::npos) {
-        return 0.0;
-    }
-    const std::string trimmed = text.substr(first, text.find_last_not_of(' ') - first + 1);
-    double value = 0.0;
-    switch (ParseGeneralNumber(trimmed, value)) {
-    case NumberParse::Ok:
-        return value;
-    case NumberParse::OutOfRange:
-        throw RunTimeError(6);
-    case NumberParse::NotANumber:
-        break;
-    }
-    throw RunTimeError(13);
-}
-
-// Copies one field from its control into the record.
+// Copies one field from its control into the record; a blank box is 0.
 void CopyField(const FormModel& form, DesignRecord& record, std::string_view name) {
-    const DesignField& field = FieldNamed(name);
-    const FieldControl binding = ControlForField(name);
-    switch (binding.kind) {
-    case ControlKind::CheckBox:
-        record.*field.int16 = form[binding.control].checked ? 1 : 0;
-        return;
-    case ControlKind::OptionGroup: {
-        const int selected = SelectedOption(form, binding.control, binding.options);
-        if (selected >= 0) {
-            record.*field.int16 = static_cast<std::int16_t>(selected);
-        }
-        return;
-    }
-    case ControlKind::List:
-    case ControlKind::TextBox:
-        break;
-    }
-    const std::string& text = form[binding.control].text;
-    switch (field.kind) {
-    case FieldKind::Text:
-        record.*field.text = text;
-        break;
-    case FieldKind::Int16:
-        record.*field.int16 = RoundedInt16(TypedNumber(text));
-        break;
-    case FieldKind::Real:
-        record.*field.real = TypedNumber(text);
-        break;
-    }
+    CopyControlToField(form, record, name, BlankText::Zero);
 }
 
 void CopyFields(const FormModel& form, DesignRecord& record,

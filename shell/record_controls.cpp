@@ -1,5 +1,9 @@
 #include "shell/record_controls.h"
 
+#include "common/number_text.h"
+#include "common/run_time_error.h"
+#include "shell/load_settings.h"
+
 #include <array>
 
 namespace {
@@ -79,4 +83,57 @@ bool FieldConditionHolds(const DesignRecord& r, std::string_view field) {
         return r.LineLoadType == 1 && r.PreLineLoadType == 2;
     }
     return true;
+}
+
+double TypedNumber(const std::string& text, BlankText blank) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string::npos && blank == BlankText::Zero) {
+        return 0.0;
+    }
+    const std::string trimmed = first == std::string::npos
+                                    ? std::string()
+                                    : text.substr(first, text.find_last_not_of(' ') - first + 1);
+    double value = 0.0;
+    switch (ParseGeneralNumber(trimmed, value)) {
+    case NumberParse::Ok:
+        return value;
+    case NumberParse::OutOfRange:
+        throw RunTimeError(6);
+    case NumberParse::NotANumber:
+        break;
+    }
+    throw RunTimeError(13);
+}
+
+void CopyControlToField(const FormModel& form, DesignRecord& record, std::string_view name,
+                        BlankText blank) {
+    const DesignField& field = FieldNamed(name);
+    const FieldControl binding = ControlForField(name);
+    switch (binding.kind) {
+    case ControlKind::CheckBox:
+        record.*field.int16 = form[binding.control].checked ? 1 : 0;
+        return;
+    case ControlKind::OptionGroup: {
+        const int selected = SelectedOption(form, binding.control, binding.options);
+        if (selected >= 0) {
+            record.*field.int16 = static_cast<std::int16_t>(selected);
+        }
+        return;
+    }
+    case ControlKind::List:
+    case ControlKind::TextBox:
+        break;
+    }
+    const std::string& text = form[binding.control].text;
+    switch (field.kind) {
+    case FieldKind::Text:
+        record.*field.text = text;
+        break;
+    case FieldKind::Int16:
+        record.*field.int16 = RoundedInt16(TypedNumber(text, blank));
+        break;
+    case FieldKind::Real:
+        record.*field.real = TypedNumber(text, blank);
+        break;
+    }
 }
