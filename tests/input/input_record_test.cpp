@@ -144,4 +144,14 @@ TEST(InputRecord, ScreenShowsBlanksForSwitchedOffFields) {
     EXPECT_TRUE(f["optPreLineLoad(1)"].checked);
     EXPECT_EQ(f["txtUDPreLineLoad"].text, "");
     EXPECT_EQ(f["lblRectGeo"].caption, "42.50 FT x 1,250.00 FT x 4.00 In");
+
+    // The load page alone, on compressible soil: the smallest load stays off whatever the
+    // record holds.
+    f.record.SoilType = 1;
+    f.record.UseDeadLoad = 1;
+    f.record.DeadLoad = 700;
+    WriteInputRecord(f.screen, f.context, 5);
+    EXPECT_FALSE(f["cbUseDeadLoad"].checked);
+    EXPECT_FALSE(f["cbUseDeadLoad"].enabled);
+    EXPECT_EQ(f["txtDeadLoad"].text, "");
 }
