@@ -1,6 +1,6 @@
 #include "common/run_time_error.h"
-#include "input/input_events.h"
 #include "engine/tendon_size.h"
+#include "input/input_events.h"
 #include "shell/record_controls.h"
 #include "storage/design_file.h"
 
