@@ -103,5 +103,15 @@ TEST(TabFiles, OpenReplacesOnlyThePage) {
     EXPECT_EQ(g.dialogs.messages.back().title, "Error opening file - 13");
     EXPECT_EQ(g.record, before);
     EXPECT_EQ(TabFileKindFor(6).openFilter, "Line Load (*.kv6) | *.kv6");
+
+    // A project information file of the first program version is announced, then shown.
+    WriteBytes(folder.path() / "old.pro", "Lot 9\r\nMarch 4, 2024\r\n24-117\r\nR. Alvarez\r\n"
+                                          "Terracon\r\nFebruary 12, 2024\r\n 1 \r\n");
+    g.dialogs.answers = {(folder.path() / "old.pro").string()};
+    OpenTabFile(g.screen, g.context, 0);
+    EXPECT_EQ(g.dialogs.messages.back().title, "Opening Korvath Win 1.x file");
+    EXPECT_EQ(g.dialogs.messages.back().icon, MessageIcon::Information);
+    EXPECT_EQ(g["txtProjName"].text, "Lot 9");
+    EXPECT_EQ(g["txtProjEng"].text, "R. Alvarez");
     EXPECT_EQ(TabFileKindFor(5).saveTitle, "Save Soil Properties File ...");
 }
