@@ -234,10 +234,10 @@ void SpinUp(InputScreen& screen, InputContext& context, std::string_view spin) {
     const std::string box = "txt" + std::string(spin.substr(2));
     FocusIn(screen, box, FocusReason::Other);
     const std::optional<double> value = SpinStartValue(screen.form[box].text);
-    const double raised = value ? *value + SpinStep(box) : 0.0;
-    if (value && std::isfinite(raised)) {
-        SetTextByUser(screen, context, box, GeneralNumberText(raised));
+    if (!value || !std::isfinite(*value + SpinStep(box))) {
+        return;
     }
+    SetTextByUser(screen, context, box, GeneralNumberText(*value + SpinStep(box)));
 }
 
 void SpinDown(InputScreen& screen, InputContext& context, std::string_view spin) {

@@ -112,21 +112,12 @@ TEST(VariableInformation, TextFieldsShowTheirMaximumLength) {
     EXPECT_EQ(MoreInfoMaterialProp(0, d).runs[1].text,
               "    The Material Label can be used to identify a unique set of material properties, "
               "which can be used as part of the file name when saving the screen.\n\n");
-    EXPECT_EQ(MoreInfoSlabProp(0, d).runs[0].text, "Rectangle Label (Optional)\n\n");
-    EXPECT_EQ(MoreInfoSoilProp(0, d).runs[0].text, "Soil Label (Optional)\n\n");
 
     // Each project field is said to head the printed reports.
     for (int topic = 0; topic <= 6; ++topic) {
         EXPECT_TRUE(Contains(MoreInfoProjectInfo(topic, d), "header of all printed reports"))
             << topic;
     }
-
-    EXPECT_EQ(MaxTextLength("ProjName"), 60);
-    EXPECT_EQ(MaxTextLength("ProjGeoNum"), 30);
-    EXPECT_EQ(MaxTextLength("ProjGeoDate"), 18);
-    EXPECT_EQ(MaxTextLength("SoilLabel"), 60);
-    EXPECT_EQ(MaxTextLength("Fpc"), 0);
-    EXPECT_EQ(MaxTextLength("txtProjName"), 0);
 }
 
 TEST(VariableInformation, PageTopicNamesTheTabAndEndsWithTheRightClickHint) {
