@@ -9,6 +9,7 @@
 #include "cli/results_summary.h"
 #include "compliance/compliance_pass.h"
 #include "engine/analysis_run.h"
+#include "output/results_screen.h"
 
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -54,13 +55,15 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
 
     std::optional<CheckFault> fault;
     std::optional<CompliancePass> pass;
+    ResultsScreen screen = LoadResultsScreen();
     const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
     if (outcome.faultKind) {
         fault = CheckFault{*outcome.faultKind, outcome.faultStage};
     } else {
         const std::int16_t showAll = options.showAll ? 1 : 0;
+        screen.flags = {showAll, showAll, showAll};
         try {
-            pass = RunCompliancePass(record, results, {showAll, showAll, showAll});
+            pass = FillResults(screen, record, results, options.settings);
         } catch (const ArithmeticFault& exceptionsFault) {
             fault = CheckFault{exceptionsFault.kind, std::nullopt};
         }
@@ -76,7 +79,7 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
                 fault->stage ? nlohmann::ordered_json(*fault->stage) : nullptr;
         }
         if (pass) {
-            AddCompliancePassJson(record, *pass, document);
+            AddCompliancePassJson(*pass, SummaryLinesShown(screen.form), document);
         } else {
             // Lists of a run that faulted would be incomplete and are not shown.
             for (const char* key : {"exceptions", "compliance", "RibbedOutCount", "summary"}) {
@@ -90,7 +93,7 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
     } else {
         PrintProjectHeading("compliance check", options.project, loaded->version, options.settings,
                             record, out);
-        PrintCompliancePass(record, *pass, options.colour, out);
+        PrintCompliancePass(*pass, SummaryLinesShown(screen.form), options.colour, out);
     }
     return fault ? ExitEngineFault : ExitAnalysed;
 }

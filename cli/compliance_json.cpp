@@ -1,7 +1,5 @@
 #include "cli/compliance_json.h"
 
-#include "compliance/summary_lines.h"
-
 #include <string>
 
 namespace {
@@ -47,7 +45,7 @@ nlohmann::ordered_json StyledTextJson(const StyledText& box) {
     return runs;
 }
 
-void AddCompliancePassJson(const DesignRecord& record, const CompliancePass& pass,
+void AddCompliancePassJson(const CompliancePass& pass, const ShownSummary& summary,
                            nlohmann::ordered_json& document) {
     nlohmann::ordered_json& exceptions = document["exceptions"];
     exceptions["ribbed"] = ExceptionsJson(pass.ribbedExceptions);
@@ -80,7 +78,7 @@ void AddCompliancePassJson(const DesignRecord& record, const CompliancePass& pas
     }
 
     document["RibbedOutCount"] = pass.RibbedOutCount;
-    document["summary"] = {{"RibbedSummary", SummaryJson(RibbedSummary(record, pass))},
-                           {"UTFSummary", SummaryJson(UTFSummary(pass))},
-                           {"LLSummary", SummaryJson(LLSummary(record, pass))}};
+    document["summary"] = {{"RibbedSummary", SummaryJson(summary.ribbed)},
+                           {"UTFSummary", SummaryJson(summary.uniform)},
+                           {"LLSummary", SummaryJson(summary.lineLoad)}};
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "compliance/compliance_pass.h"
-#include "engine/design_record.h"
+#include "output/project_page.h"
 
 #include <nlohmann/json.hpp>
 
@@ -11,5 +11,5 @@ nlohmann::ordered_json StyledTextJson(const StyledText& box);
 
 // Adds the exception lists, the compliance lists, `RibbedOutCount` and the summary lines to
 // `document`; a list the results screen would not make for this project is null.
-void AddCompliancePassJson(const DesignRecord& record, const CompliancePass& pass,
+void AddCompliancePassJson(const CompliancePass& pass, const ShownSummary& summary,
                            nlohmann::ordered_json& document);

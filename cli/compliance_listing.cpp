@@ -1,7 +1,5 @@
 #include "cli/compliance_listing.h"
 
-#include "compliance/summary_lines.h"
-
 #include <ostream>
 #include <string>
 
@@ -13,20 +11,6 @@ constexpr const char* Reset = "\033[0m";
 
 // The width in which a centred run is centred.
 constexpr std::size_t ScreenColumns = 80;
-
-void PrintStyled(const std::string& text, bool bold, bool red, bool colour, std::ostream& out) {
-    if (text.empty()) {
-        return;
-    }
-    const bool styled = colour && (bold || red);
-    if (styled) {
-        out << (bold ? Bold : "") << (red ? Red : "");
-    }
-    out << text;
-    if (styled) {
-        out << Reset;
-    }
-}
 
 // A run as it appears in its box. Escapes never span a line end, so that a line of a list
 // piped through a pager keeps its own colour.
@@ -52,9 +36,7 @@ void PrintRun(const StyledRun& run, bool colour, std::ostream& out) {
 
 void PrintBox(const std::string& title, const StyledText& box, bool colour, std::ostream& out) {
     out << '\n' << title << '\n' << std::string(title.size(), '-') << '\n';
-    for (const StyledRun& run : box.runs) {
-        PrintRun(run, colour, out);
-    }
+    PrintStyledText(box, colour, out);
 }
 
 void PrintSummaryLines(const std::vector<SummaryLine>& lines, bool colour, std::ostream& out) {
@@ -67,7 +49,27 @@ void PrintSummaryLines(const std::vector<SummaryLine>& lines, bool colour, std::
 
 } // namespace
 
-void PrintCompliancePass(const DesignRecord& record, const CompliancePass& pass, bool colour,
+void PrintStyled(const std::string& text, bool bold, bool red, bool colour, std::ostream& out) {
+    if (text.empty()) {
+        return;
+    }
+    const bool styled = colour && (bold || red);
+    if (styled) {
+        out << (bold ? Bold : "") << (red ? Red : "");
+    }
+    out << text;
+    if (styled) {
+        out << Reset;
+    }
+}
+
+void PrintStyledText(const StyledText& box, bool colour, std::ostream& out) {
+    for (const StyledRun& run : box.runs) {
+        PrintRun(run, colour, out);
+    }
+}
+
+void PrintCompliancePass(const CompliancePass& pass, const ShownSummary& summary, bool colour,
                          std::ostream& out) {
     out << "\nThe following elements of the design are not in strict compliance with the Design "
            "of Post-Tensioned Slabs-On-Ground 3rd Edition manual published by the "
@@ -87,9 +89,9 @@ void PrintCompliancePass(const DesignRecord& record, const CompliancePass& pass,
         PrintBox("Line Load - Design Compliance", pass.lineLoad->box, colour, out);
     }
 
-    const std::string summary = "Summary";
-    out << '\n' << summary << '\n' << std::string(summary.size(), '-') << '\n';
-    PrintSummaryLines(RibbedSummary(record, pass), colour, out);
-    PrintSummaryLines(UTFSummary(pass), colour, out);
-    PrintSummaryLines(LLSummary(record, pass), colour, out);
+    const std::string title = "Summary";
+    out << '\n' << title << '\n' << std::string(title.size(), '-') << '\n';
+    PrintSummaryLines(summary.ribbed, colour, out);
+    PrintSummaryLines(summary.uniform, colour, out);
+    PrintSummaryLines(summary.lineLoad, colour, out);
 }

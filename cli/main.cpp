@@ -4,6 +4,7 @@
 #include "cli/check_command.h"
 #include "cli/exit_status.h"
 #include "cli/new_command.h"
+#include "cli/results_command.h"
 #include "cli/stderr_dialogs.h"
 #include "cli/upgrade_command.h"
 #include "common/run_time_error.h"
@@ -101,6 +102,25 @@ int main(int argc, char** argv) {
     AddRunOptions(*checkCommand, check.project, check.json, checkFlags, checkNoCheck);
     checkCommand->add_flag("--show-all", check.showAll, "List the values within their limits too");
 
+    ResultsOptions results;
+    SettingsFlags resultsFlags;
+    bool resultsNoCheck = false;
+    CLI::App* resultsCommand =
+        app.add_subcommand("results", "Analyse a project and print the results screen, tab by tab");
+    AddRunOptions(*resultsCommand, results.project, results.json, resultsFlags, resultsNoCheck);
+    resultsCommand
+        ->add_option("--show-all-ribbed", results.showAll.ShowAllRibbed,
+                     "Display all values of the ribbed compliance list (0 or 1)")
+        ->check(CLI::IsMember({0, 1}));
+    resultsCommand
+        ->add_option("--show-all-uniform", results.showAll.ShowAllUniform,
+                     "Display all values of the uniform thickness compliance list (0 or 1)")
+        ->check(CLI::IsMember({0, 1}));
+    resultsCommand
+        ->add_option("--show-all-lineload", results.showAll.ShowAllLineLoad,
+                     "Display all values of the line load compliance list (0 or 1)")
+        ->check(CLI::IsMember({0, 1}));
+
     std::filesystem::path upgradeInput;
     std::filesystem::path upgradeOutput;
     CLI::App* upgradeCommand =
@@ -140,6 +160,13 @@ int main(int argc, char** argv) {
         check.defaults = settings->defaults;
         check.colour = ColourOnStandardOutput();
         return RunCheckCommand(check, std::cout, std::cerr);
+    }
+    if (*resultsCommand) {
+        results.check = !resultsNoCheck;
+        results.settings = resultsFlags.over(settings->options);
+        results.defaults = settings->defaults;
+        results.colour = ColourOnStandardOutput();
+        return RunResultsCommand(results, std::cout, std::cerr);
     }
     if (*newCommand) {
         const ProjectKind kind = newKind == "compressible" ? ProjectKind::Compressible

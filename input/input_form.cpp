@@ -373,15 +373,3 @@ bool IsFieldControl(std::string_view name) {
     return name.starts_with("txt") || name.starts_with("cb") || name.starts_with("opt") ||
            name.starts_with("cmb");
 }
-
-bool IsShown(const FormModel& form, std::string_view name) {
-    std::string container(name);
-    while (!container.empty() && form.has(container)) {
-        const Control& control = form[container];
-        if (!control.visible) {
-            return false;
-        }
-        container = control.parent;
-    }
-    return true;
-}

@@ -45,6 +45,3 @@ int PageOfControl(const FormModel& form, std::string_view name);
 // Whether the control is one the user types into or clicks (text box, check box, list, option
 // button or button), which the tab sequence can reach; labels, spins and frames are not.
 bool IsFieldControl(std::string_view name);
-
-// Whether the control is drawn: it and every container it stands in are visible.
-bool IsShown(const FormModel& form, std::string_view name);

@@ -6,17 +6,17 @@ Control& FormModel::add(Control control) {
     if (has(control.name)) {
         throw std::logic_error("two controls named " + control.name);
     }
+    m_index.emplace(control.name, m_controls.size());
     m_controls.push_back(std::move(control));
     return m_controls.back();
 }
 
 Control& FormModel::operator[](std::string_view name) {
-    for (Control& control : m_controls) {
-        if (control.name == name) {
-            return control;
-        }
+    const auto found = m_index.find(name);
+    if (found == m_index.end()) {
+        throw std::out_of_range("no control named " + std::string(name));
     }
-    throw std::out_of_range("no control named " + std::string(name));
+    return m_controls[found->second];
 }
 
 const Control& FormModel::operator[](std::string_view name) const {
@@ -24,12 +24,7 @@ const Control& FormModel::operator[](std::string_view name) const {
 }
 
 bool FormModel::has(std::string_view name) const {
-    for (const Control& control : m_controls) {
-        if (control.name == name) {
-            return true;
-        }
-    }
-    return false;
+    return m_index.find(name) != m_index.end();
 }
 
 std::string ArrayName(std::string_view array, int index) {
@@ -49,4 +44,16 @@ void SelectOption(FormModel& form, std::string_view group, int count, int index)
     for (int i = 0; i < count; ++i) {
         form[ArrayName(group, i)].checked = i == index;
     }
+}
+
+bool IsShown(const FormModel& form, std::string_view name) {
+    std::string container(name);
+    while (!container.empty() && form.has(container)) {
+        const Control& control = form[container];
+        if (!control.visible) {
+            return false;
+        }
+        container = control.parent;
+    }
+    return true;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +26,8 @@ struct Control {
     int maxLength = 0; // text boxes: 0 is no limit
     int selStart = 0;  // text boxes: the selection
     int selLength = 0;
+    bool bold = false; // labels whose weight and colour the model sets
+    bool red = false;  // colour value 255; the window's text colour otherwise
 };
 
 class FormModel {
@@ -44,6 +49,7 @@ class FormModel {
 
   private:
     std::vector<Control> m_controls;
+    std::map<std::string, std::size_t, std::less<>> m_index; // name to position
 };
 
 // The name of element `index` of a control array: "optTendType(3)".
@@ -55,3 +61,6 @@ int SelectedOption(const FormModel& form, std::string_view group, int count);
 
 // Checks button `index` of the group and clears the others.
 void SelectOption(FormModel& form, std::string_view group, int count, int index);
+
+// Whether the control is drawn: it and every container it stands in are visible.
+bool IsShown(const FormModel& form, std::string_view name);
