@@ -1,6 +1,7 @@
 #include "common/date_text.h"
 
 #include <array>
+#include <cstdio>
 #include <ctime>
 
 std::string LongDateText(int year, int month, int day) {
@@ -34,4 +35,19 @@ std::string ShortDateText(int year, int month, int day) {
 std::string TodayShortDateText() {
     const std::tm local = LocalToday();
     return ShortDateText(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
+}
+
+std::string TimeOfDayText(int hour, int minute, int second) {
+    const int twelveHour = hour % 12 == 0 ? 12 : hour % 12;
+    char text[16];
+    std::snprintf(text, sizeof text, "%d:%02d:%02d %s", twelveHour, minute, second,
+                  hour < 12 ? "AM" : "PM");
+    return text;
+}
+
+std::string TimeOfDayNowText() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return TimeOfDayText(local.tm_hour, local.tm_min, local.tm_sec);
 }

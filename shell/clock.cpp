@@ -9,3 +9,7 @@ std::string SystemClock::TodayLongDate() const {
 std::string SystemClock::TodayShortDate() const {
     return TodayShortDateText();
 }
+
+std::string SystemClock::TimeOfDay() const {
+    return TimeOfDayNowText();
+}

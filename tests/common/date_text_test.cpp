@@ -14,3 +14,10 @@ TEST(ShortDateText, MonthDayYearWithoutLeadingZeros) {
     EXPECT_EQ(ShortDateText(2026, 11, 23), "11/23/2026");
     EXPECT_EQ(ShortDateText(2007, 1, 5), "1/5/2007");
 }
+
+TEST(TimeOfDayText, TwelveHourClockWithNoonAndMidnightAsTwelve) {
+    EXPECT_EQ(TimeOfDayText(15, 5, 9), "3:05:09 PM");
+    EXPECT_EQ(TimeOfDayText(0, 0, 0), "12:00:00 AM");
+    EXPECT_EQ(TimeOfDayText(12, 30, 59), "12:30:59 PM");
+    EXPECT_EQ(TimeOfDayText(11, 59, 59), "11:59:59 AM");
+}

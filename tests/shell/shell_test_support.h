@@ -11,6 +11,7 @@ class FixedClock : public Clock {
     explicit FixedClock(std::string date) : date(std::move(date)) {}
     std::string TodayLongDate() const override { return date; }
     std::string TodayShortDate() const override { return "11/23/2026"; }
+    std::string TimeOfDay() const override { return "3:05:09 PM"; }
     std::string date;
 };
 
