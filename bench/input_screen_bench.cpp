@@ -15,6 +15,7 @@ namespace {
 class SilentDialogs : public UserDialogs {
   public:
     void ShowMessage(const MessageRequest&) override {}
+    Answer AskYesNoCancel(const MessageRequest&) override { return Answer::Cancel; }
     std::optional<std::string> ShowOpenDialog(const FileDialogRequest&) override { return {}; }
     std::optional<std::string> ShowSaveDialog(const FileDialogRequest&) override { return {}; }
 };

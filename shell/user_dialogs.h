@@ -24,10 +24,15 @@ struct FileDialogRequest {
     std::string folder;           // the folder it opens in, may be empty
 };
 
+// The answer to a question box with the buttons Yes, No and Cancel.
+enum class Answer { Yes, No, Cancel };
+
 class UserDialogs {
   public:
     virtual ~UserDialogs() = default;
     virtual void ShowMessage(const MessageRequest& message) = 0;
+    // A question box with Yes, No and Cancel; closing it is Cancel.
+    virtual Answer AskYesNoCancel(const MessageRequest& question) = 0;
     // The chosen path, or nothing when the user cancelled.
     virtual std::optional<std::string> ShowOpenDialog(const FileDialogRequest& request) = 0;
     virtual std::optional<std::string> ShowSaveDialog(const FileDialogRequest& request) = 0;

@@ -19,19 +19,30 @@ class FixedClock : public Clock {
 class RecordingDialogs : public UserDialogs {
   public:
     void ShowMessage(const MessageRequest& message) override { messages.push_back(message); }
+    // Questions answer with the next scripted answer, Cancel when none is left.
+    Answer AskYesNoCancel(const MessageRequest& question) override {
+        messages.push_back(question);
+        if (replies.empty()) {
+            return Answer::Cancel;
+        }
+        const Answer reply = replies.front();
+        replies.erase(replies.begin());
+        return reply;
+    }
     // File dialogs answer with the next scripted path; an empty script is a cancel.
     std::optional<std::string> ShowOpenDialog(const FileDialogRequest& request) override {
-        return Answer(request);
+        return NextPath(request);
     }
     std::optional<std::string> ShowSaveDialog(const FileDialogRequest& request) override {
-        return Answer(request);
+        return NextPath(request);
     }
     std::vector<MessageRequest> messages;
     std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::string> answers;
+    std::vector<Answer> replies;
 
   private:
-    std::optional<std::string> Answer(const FileDialogRequest& request) {
+    std::optional<std::string> NextPath(const FileDialogRequest& request) {
         fileDialogs.push_back(request);
         if (answers.empty()) {
             return std::nullopt;
