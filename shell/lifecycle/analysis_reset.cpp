@@ -13,10 +13,9 @@
 namespace {
 
 AnalysisResult EndWithFault(ShellServices& services, const std::string& where) {
-    services.dialogs.ShowMessage(
-        {MessageIcon::Critical, AnalysisFaultTitle,
-         "The analysis ended in an arithmetic fault: " + where +
-             ".\nKorvath must close now; changes not saved are lost."});
+    services.dialogs.ShowMessage({MessageIcon::Critical, AnalysisFaultTitle,
+                                  "The analysis ended in an arithmetic fault: " + where +
+                                      ".\nKorvath must close now; changes not saved are lost."});
     return AnalysisResult::EndProgram;
 }
 
@@ -30,8 +29,8 @@ AnalysisResult AnalysisReset(Program& program, ShellServices& services) {
     try {
         ReadInputRecord(program.input.form, program.record, AllSections);
     } catch (const RunTimeError& error) {
-        services.dialogs.ShowMessage({MessageIcon::Exclamation, InputErrorTitle,
-                                      error.description()});
+        services.dialogs.ShowMessage(
+            {MessageIcon::Exclamation, InputErrorTitle, error.description()});
         return AnalysisResult::Stopped;
     }
     if (!CheckRecordValues(program.input, context)) {

@@ -23,10 +23,10 @@ void WriteAssociation(ShellServices& services, const AssociationTarget& associat
     try {
         AssociateFileType(association.dataFolder, association.program);
     } catch (const RunTimeError& error) {
-        services.dialogs.ShowMessage({MessageIcon::Critical,
-                                      "Error associating file type - " +
-                                          std::to_string(error.number()),
-                                      error.description()});
+        services.dialogs.ShowMessage(
+            {MessageIcon::Critical,
+             "Error associating file type - " + std::to_string(error.number()),
+             error.description()});
     }
 }
 

@@ -73,7 +73,8 @@ void OpenPath(Program& program, ShellServices& services, const std::string& path
             services.dialogs.ShowMessage({MessageIcon::Information, notice.title, notice.text});
         };
         DesignRecord read = program.record;
-        const int version = ReadDesignFile(path, AllSections, read, program.settings.defaults, tell);
+        const int version =
+            ReadDesignFile(path, AllSections, read, program.settings.defaults, tell);
         program.record = read;
         project.dialogFolder = FolderOf(path);
         program.input.dialogFolder = FolderOf(path);

@@ -1,0 +1,345 @@
+#include "input/input_events.h"
+#include "shell/lifecycle/analysis_reset.h"
+#include "shell/lifecycle/project_lifecycle.h"
+#include "shell/recent_files.h"
+
+#include "tests/shell/lifecycle_test_support.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The commands of the main window that follow the project, as a line to compare.
+std::string Commands(const ProjectState& p) {
+    std::string line;
+    const std::pair<const char*, bool> items[] = {
+        {"save", p.saveEnabled},   {"button4", p.saveButtonEnabled}, {"saveAs", p.saveAsEnabled},
+        {"input", p.inputEnabled}, {"analysis", p.analysisEnabled},  {"output", p.outputEnabled},
+        {"print", p.printEnabled},
+    };
+    for (const auto& [name, on] : items) {
+        line += std::string(on ? "+" : "-") + name + " ";
+    }
+    return line;
+}
+
+// Lines of a project file, each ended by CR LF.
+std::string Lines(std::initializer_list<std::string> lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\r\n";
+    }
+    return text;
+}
+
+void Type(LifecycleFixture& f, const std::string& box, const std::string& text) {
+    InputContext context = InputContextOf(f.program, f.services);
+    ChangeText(f.program.input, context, box, text);
+}
+
+} // namespace
+
+TEST(ProjectLifecycle, TheStateTableFromStartToAnalysisAndBack) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    ProjectState& project = p.project;
+
+    const WindowPlace place = LoadMainWindow(p, f.services, 19200, 10800);
+    EXPECT_EQ(project.caption, "Korvath 3.0");
+    EXPECT_EQ(Commands(project), "-save -button4 -saveAs -input -analysis -output -print ");
+    EXPECT_EQ(place.left, (19200 - 11962) / 2.0);
+    EXPECT_EQ(p.settings.StartX, "3619");
+
+    NewProjectReset(p, f.services, ProjectKind::Compressible);
+    EXPECT_EQ(project.caption, "Korvath 3.0 - Untitled");
+    EXPECT_EQ(Commands(project), "-save +button4 +saveAs +input +analysis -output -print ");
+    EXPECT_TRUE(p.input.visible);
+    EXPECT_EQ(p.input.CurrentInputTab, 1);
+    EXPECT_EQ(p.input.form["cboSoilType"].text, "Compressible Soils");
+    EXPECT_EQ(p.record.SoilType, 1);
+    EXPECT_EQ(project.ProjectChanged, 0);
+
+    // Opening an example: saved, not yet analysed.
+    const std::string path = f.Example("uniform_line_load");
+    OpenRecentProject(p, f.services, path);
+    EXPECT_EQ(project.caption, "Korvath 3.0 - uniform_line_load.kvt");
+    EXPECT_EQ(Commands(project), "+save +button4 +saveAs +input +analysis -output -print ");
+    EXPECT_EQ(p.input.form["txtProjName"].text, "Hilltop Storage Warehouse");
+    EXPECT_EQ(p.settings.RecentFiles[0], path);
+
+    // Analysed: the results replace the input, four main tabs for its uniform foundation and
+    // line load.
+    EXPECT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
+    EXPECT_EQ(Commands(project), "+save +button4 +saveAs +input +analysis +output +print ");
+    EXPECT_TRUE(p.output.visible);
+    EXPECT_FALSE(p.input.visible);
+    EXPECT_EQ(p.output.tabMain.count(), 4);
+    EXPECT_EQ(p.output.tabMain.captions[3], "Line Load Analysis");
+    EXPECT_EQ(project.ProjectChanged, 0);
+    EXPECT_EQ(project.caption, "Korvath 3.0 - uniform_line_load.kvt");
+
+    ShowInputScreen(p);
+    EXPECT_TRUE(p.input.visible && !p.output.visible);
+    ShowOutputScreen(p);
+    EXPECT_TRUE(p.output.visible && !p.input.visible);
+
+    // Edited: the results go, the star comes.
+    ShowInputScreen(p);
+    Type(f, "txtProjNum", "2026-143");
+    EXPECT_EQ(project.caption, "Korvath 3.0 - uniform_line_load.kvt*");
+    EXPECT_EQ(Commands(project), "+save +button4 +saveAs +input +analysis -output -print ");
+    ShowOutputScreen(p);
+    EXPECT_FALSE(p.output.visible);
+
+    // Saved: the star goes, the file holds the edit.
+    SaveCommand(p, f.services);
+    EXPECT_EQ(project.caption, "Korvath 3.0 - uniform_line_load.kvt");
+    EXPECT_EQ(project.ProjectChanged, 0);
+    EXPECT_NE(FileBytes(path).find("\r\n2026-143\r\n"), std::string::npos);
+    EXPECT_TRUE(f.dialogs.messages.empty());
+}
+
+TEST(ProjectLifecycle, AVersionTwoFileIsAnnouncedAndLeftChanged) {
+    LifecycleFixture f;
+    const std::string path = f.Path("old.kvt");
+    // A version 2 project: no edge down state in its soil, no edge down ratio in its loads.
+    // clang-format off
+    WriteBytes(path, Lines({"Korvath 2.0", " 0 ",
+        "Lot 12", "March 4, 2024", "24-117", "R. Alvarez, P.E.", "Terracon", "G-5521",
+        "February 12, 2024", " 1 ",
+        "3000 psi concrete", " 3000 ", " 1500000 ", " 145 ", " 270 ", " 1 ",
+        "Rect A", " 1 ", " 150 ", " 125.5 ", " 0 ", " 4 ", " 40.5 ", " 62.25 ",
+        " 5 ", " 1 ", " 4 ", " 0 ", " 24 ", " 30 ", " 26 ", " 0 ", " 12 ", " 14 ", " 10 ", " 0 ",
+        " 1 ", " 2 ", " 1.5 ", " 0 ", " 3 ", " 3.25 ", " 2.75 ", " 0 ",
+        " 1 ", " 1 ", "Clay, PI 35", " 1 ", " 1500 ", " 5.5 ", " 3.2 ", " 1.3 ", " .75 ", " 2000 ",
+        " 1 ", " .8 ", " 1000 ", " 40 ", " 1200 ", " 0 ", " 360 ", " 720 ", " 480 ", " 1 ", " 15 ",
+        " 0 "}));
+    // clang-format on
+    const std::string bytes = FileBytes(path);
+    LoadMainWindow(f.program, f.services, 19200, 10800);
+    f.dialogs.answers = {path};
+    OpenCommand(f.program, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(f.program.project.caption, "Korvath 3.0 - old.kvt*");
+    EXPECT_EQ(f.program.project.ProjectChanged, 1);
+    EXPECT_TRUE(f.program.project.saveAsEnabled);
+    EXPECT_EQ(FileBytes(path), bytes); // the old format stays on disk until saved
+    EXPECT_EQ(f.dialogs.fileDialogs.at(0).title, "Open Project ...");
+    EXPECT_EQ(f.dialogs.fileDialogs.at(0).filter, "Projects (*.kvt)|*.kvt");
+}
+
+TEST(ProjectLifecycle, RecentFilesMoveUpWithoutDoubling) {
+    LifecycleFixture f;
+    ProgramSettings& s = f.program.settings;
+    for (const char* path : {"/a.kvt", "/b.kvt", "/c.kvt", "/d.kvt", "/e.kvt"}) {
+        ModifyRecentFiles(s, path);
+    }
+    EXPECT_EQ(s.RecentFiles,
+              (std::array<std::string, 5>{"/e.kvt", "/d.kvt", "/c.kvt", "/b.kvt", "/a.kvt"}));
+    ModifyRecentFiles(s, "/c.kvt");
+    EXPECT_EQ(s.RecentFiles,
+              (std::array<std::string, 5>{"/c.kvt", "/e.kvt", "/d.kvt", "/b.kvt", "/a.kvt"}));
+    ModifyRecentFiles(s, "/C.kvt"); // another file: names are compared with their case
+    EXPECT_EQ(s.RecentFiles[0], "/C.kvt");
+    EXPECT_EQ(s.RecentFiles[4], "/b.kvt");
+    EXPECT_EQ(RecentFileItems(s)[1].caption, "&2. /c.kvt");
+
+    // Reopening the newest through its menu item keeps one entry of it.
+    const std::string path = f.Example("expansive_ribbed");
+    ClearRecentFile(s);
+    EXPECT_FALSE(RecentFilesSeparatorVisible(s));
+    ModifyRecentFiles(s, "/other.kvt");
+    OpenRecentProject(f.program, f.services, path);
+    OpenRecentCommand(f.program, f.services, 1);
+    EXPECT_EQ(s.RecentFiles[0], path);
+    EXPECT_EQ(s.RecentFiles[1], "/other.kvt");
+    EXPECT_EQ(s.RecentFiles[2], "");
+    EXPECT_FALSE(RecentFileItems(s)[2].visible);
+}
+
+TEST(ProjectLifecycle, YesAtTheExitPromptWithABlankFieldStaysOnTheField) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    const std::string path = f.Example("expansive_ribbed");
+    const std::string bytes = FileBytes(path);
+    OpenRecentProject(p, f.services, path);
+    EXPECT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
+    ShowInputScreen(p);
+    Type(f, "txtFpc", "");
+
+    f.dialogs.replies = {Answer::Yes};
+    EXPECT_FALSE(QueryUnload(p, f.services));
+    ASSERT_EQ(f.dialogs.messages.size(), 2u);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Save?");
+    EXPECT_EQ(f.dialogs.messages[0].text, "File has changed?  Save before Exit?");
+    EXPECT_EQ(f.dialogs.messages[1].title, "Input Error!");
+    EXPECT_EQ(p.input.form.focus, "txtFpc");
+    EXPECT_EQ(p.input.CurrentInputTab, 2);
+    EXPECT_TRUE(p.input.visible);
+    EXPECT_EQ(FileBytes(path), bytes);
+
+    // No discards the edit; the next project starts from the defaults.
+    f.dialogs.replies = {Answer::No};
+    NewProjectCommand(p, f.services, ProjectKind::Expansive);
+    EXPECT_EQ(p.input.form["txtFpc"].text, "3000");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - Untitled");
+    EXPECT_EQ(FileBytes(path), bytes);
+
+    // Cancel keeps the program running; an unchanged project asks nothing.
+    Type(f, "txtProjName", "Lot 15");
+    f.dialogs.replies = {Answer::Cancel};
+    EXPECT_FALSE(QueryUnload(p, f.services));
+    NewProjectReset(p, f.services, ProjectKind::Expansive);
+    const std::size_t asked = f.dialogs.messages.size();
+    EXPECT_TRUE(QueryUnload(p, f.services));
+    EXPECT_EQ(f.dialogs.messages.size(), asked);
+}
+
+TEST(ProjectLifecycle, YesOnAProjectNeverSavedGoesThroughTheSaveDialog) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    NewProjectReset(p, f.services, ProjectKind::LineLoad);
+    EXPECT_TRUE(p.input.form["cbLineLoadType"].checked);
+    Type(f, "txtProjName", "Lot 16");
+
+    // Cancel in the dialog is Cancel: nothing is written.
+    f.dialogs.replies = {Answer::Yes};
+    EXPECT_EQ(SaveCurrentFile(p, f.services, OpenPrompt), Answer::Cancel);
+    EXPECT_EQ(p.project.ProjectChanged, 1);
+
+    const std::string path = f.Path("lot16.kvt");
+    f.dialogs.replies = {Answer::Yes};
+    f.dialogs.answers = {path};
+    EXPECT_EQ(SaveCurrentFile(p, f.services, OpenPrompt), Answer::Yes);
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - lot16.kvt");
+    EXPECT_TRUE(p.project.saveEnabled);
+    EXPECT_EQ(p.settings.RecentFiles[0], path);
+    EXPECT_EQ(f.dialogs.fileDialogs.back().title, "Save Project As ...");
+    EXPECT_NE(FileBytes(path).find("Lot 16"), std::string::npos);
+}
+
+TEST(ProjectLifecycle, AFailedOpenHidesTheInputAndSaysWhy) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    const std::string path = f.Example("expansive_ribbed");
+    OpenRecentProject(p, f.services, path);
+    const DesignRecord before = p.record;
+
+    OpenAssociatedProject(p, f.services, "\"" + f.Path("missing.kvt") + "\"");
+    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Error opening file - 53");
+    EXPECT_EQ(f.dialogs.messages[0].text, "File not found");
+    EXPECT_FALSE(p.input.visible);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - ");
+    EXPECT_EQ(p.project.ProjFilePath, f.Path("missing.kvt")); // the quotation marks removed
+    EXPECT_EQ(p.record, before);
+
+    // A cancelled dialog is silent and changes nothing.
+    OpenCommand(p, f.services);
+    EXPECT_EQ(f.dialogs.messages.size(), 1u);
+}
+
+TEST(ProjectLifecycle, SaveFailuresKeepTheProjectChanged) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    OpenRecentProject(p, f.services, f.Example("expansive_ribbed"));
+    Type(f, "txtProjName", "Lot 17");
+    f.dialogs.answers = {f.Path("no such folder/lot17.kvt")};
+    SaveAsCommand(p, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].title.rfind("Error Saving File - ", 0), 0u);
+    EXPECT_EQ(p.project.ProjectChanged, 1);
+    EXPECT_EQ(p.project.ProjFileTitle, "expansive_ribbed.kvt");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - expansive_ribbed.kvt*");
+}
+
+TEST(ProjectLifecycle, NewButtonRemembersTheKindChosenInItsList) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    EXPECT_EQ(p.project.newToolTip, "New Expansive Soil Project");
+    ChooseNewKind(p, f.services, ProjectKind::Compressible);
+    EXPECT_EQ(p.project.newToolTip, "New Compressible Soil Project");
+    NewProjectReset(p, f.services, ProjectKind::Expansive);
+    EXPECT_EQ(p.record.SoilType, 0);
+    ClickNewButton(p, f.services);
+    EXPECT_EQ(p.record.SoilType, 1);
+    EXPECT_EQ(p.input.form["cboSoilType"].text, "Compressible Soils");
+
+    // The line load menu item does nothing at all.
+    Type(f, "txtProjName", "changed");
+    LineLoadMenuItem(p);
+    EXPECT_EQ(p.project.ProjectChanged, 1);
+    EXPECT_EQ(p.input.form["txtProjName"].text, "changed");
+}
+
+TEST(ProjectLifecycle, AnalysisStopsAtInputFaultsAndEndsTheProgramAtAnEngineFault) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    OpenRecentProject(p, f.services, f.Example("compressible_edge_down"));
+    const ResultsRecord before = p.results;
+
+    // A blank stops it before the record changes.
+    Type(f, "txtRectWidth", "");
+    EXPECT_EQ(AnalysisReset(p, f.services), AnalysisResult::Stopped);
+    EXPECT_EQ(p.record.RectWidth, 36);
+    EXPECT_TRUE(p.input.visible);
+    EXPECT_FALSE(p.project.outputEnabled);
+
+    // A value fault stops it after the record took the screen.
+    Type(f, "txtRectWidth", "60");
+    EXPECT_EQ(AnalysisReset(p, f.services), AnalysisResult::Stopped);
+    EXPECT_EQ(p.record.RectWidth, 60);
+    EXPECT_EQ(f.dialogs.messages.back().title, "Input Error!");
+    EXPECT_EQ(p.results, before);
+
+    // Forty thousand short beams on a rectangle 100,000 ft square pass the checks and overflow
+    // the 16-bit count of beams.
+    const std::string path = f.Path("overflow.kvt");
+    std::string bytes = FileBytes(f.Example("expansive_ribbed"));
+    for (const auto& [line, text] :
+         std::vector<std::pair<std::size_t, std::string>>{{22, " 100000 "},
+                                                          {23, " 100000 "},
+                                                          {24, " 20000 "},
+                                                          {25, " 20000 "},
+                                                          {45, " 1 "},
+                                                          {46, " 1 "},
+                                                          {47, " 100000 "},
+                                                          {48, " 100000 "}}) {
+        std::size_t start = 0;
+        for (std::size_t i = 0; i < line; ++i) {
+            start = bytes.find("\r\n", start) + 2;
+        }
+        bytes.replace(start, bytes.find("\r\n", start) - start, text);
+    }
+    WriteBytes(path, bytes);
+    OpenRecentProject(p, f.services, path);
+    EXPECT_EQ(AnalysisReset(p, f.services), AnalysisResult::EndProgram);
+    EXPECT_EQ(f.dialogs.messages.back().title, "Korvath Critical Error");
+    EXPECT_NE(f.dialogs.messages.back().text.find("overflow in stage 2"), std::string::npos)
+        << f.dialogs.messages.back().text;
+    EXPECT_FALSE(p.input.visible || p.output.visible);
+    EXPECT_FALSE(p.project.outputEnabled);
+}
+
+TEST(ProjectLifecycle, WindowPlacementKeepsAPlaceOnTheScreenAndTheEndWritesIt) {
+    LifecycleFixture f;
+    ProgramSettings& s = f.program.settings;
+    s.StartX = "1500", s.StartY = "900";
+    WindowPlace place = LoadMainWindow(f.program, f.services, 19200, 10800);
+    EXPECT_EQ(place.left, 1500);
+    EXPECT_EQ(place.top, 900);
+
+    // Placed once on a larger screen, out of this one's width: centred again.
+    s.StartX = "25000";
+    place = LoadMainWindow(f.program, f.services, 19200, 10800);
+    EXPECT_EQ(place.left, 3619);
+    EXPECT_EQ(s.StartX, "3619");
+    EXPECT_EQ(place.top, 900);
+
+    ModifyRecentFiles(s, "/lot.kvt");
+    EndProgram(f.program, f.services, "1200", "800");
+    EXPECT_EQ(f.section("Program Data").at("StartX"), "1200");
+    EXPECT_EQ(f.section("Program Data").at("RecentFile1"), "/lot.kvt");
+}

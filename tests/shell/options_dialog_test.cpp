@@ -1,0 +1,99 @@
+#include "shell/lifecycle/options_dialog.h"
+#include "shell/recent_files.h"
+
+#include "tests/shell/lifecycle_test_support.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The program folder of the fixture's services exists nowhere; the association goes to the
+// scratch folder.
+AssociationTarget Association(const LifecycleFixture& f) {
+    return {f.scratch.path() / "share", "/opt/korvath3/korvath3"};
+}
+
+} // namespace
+
+TEST(OptionsDialog, OkWithRestoreIgnoresEveryOtherEdit) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    ModifyRecentFiles(p.settings, "/lot.kvt");
+    ShowOptionsDialog(p, f.services);
+    FormModel& form = p.options.form;
+    EXPECT_TRUE(p.options.visible);
+    EXPECT_EQ(form["txtUW"].text, "145");
+
+    form["txtUW"].text = "160";
+    ChangeOptionsControl(p.options, 2);
+    form["txtPrestress"].text = ""; // a blank is not even looked at
+    ChangeOptionsControl(p.options, 6);
+    form["cbRestore"].checked = true;
+    EXPECT_TRUE(OptionsOK(p, f.services, Association(f)));
+    EXPECT_FALSE(p.options.visible);
+    EXPECT_EQ(p.options.TabChanged, (std::array<bool, OptionsTabCount>{}));
+    EXPECT_EQ(p.settings.defaults.UW, 150); // the factory's, not the edit's
+    EXPECT_EQ(p.settings.defaults.TendArea, 0.153);
+    EXPECT_EQ(f.section("DefMatProp").at("UW"), "150");
+    EXPECT_EQ(f.section("DefLDPProp").at("Prestress"), "15");
+    EXPECT_EQ(p.settings.RecentFiles[0], "/lot.kvt"); // not asked to clear
+    EXPECT_EQ(p.project.dialogFolder, "/opt/korvath3");
+    EXPECT_TRUE(f.dialogs.messages.empty());
+}
+
+TEST(OptionsDialog, ABlankBlocksOkOnItsTabAndCancelKeepsTheRecentFiles) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    ModifyRecentFiles(p.settings, "/lot.kvt");
+    ShowOptionsDialog(p, f.services, 0);
+    FormModel& form = p.options.form;
+    form["txtPrestress"].text = "";
+    form["cbClear"].checked = true;
+    EXPECT_FALSE(OptionsOK(p, f.services, Association(f)));
+    EXPECT_TRUE(p.options.visible);
+    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Input Error!");
+    EXPECT_EQ(form["tabOptions"].selectedIndex, 6);
+    EXPECT_EQ(form.focus, "txtPrestress");
+
+    // OK cleared the recent files before it met the blank, as the dialog always has; Cancel on
+    // a fresh showing with the box ticked keeps them.
+    ModifyRecentFiles(p.settings, "/lot.kvt");
+    ShowOptionsDialog(p, f.services);
+    form["cbClear"].checked = true;
+    OptionsCancel(p.options);
+    EXPECT_FALSE(p.options.visible);
+    EXPECT_EQ(p.settings.RecentFiles[0], "/lot.kvt");
+    ShowOptionsDialog(p, f.services);
+    EXPECT_FALSE(form["cbClear"].checked);
+}
+
+TEST(OptionsDialog, ApplyWritesOnlyTheTabInFront) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    ShowOptionsDialog(p, f.services, 5);
+    FormModel& form = p.options.form;
+    form["txtExpBearing"].text = "2500";
+    ChangeOptionsControl(p.options, 5);
+    form["txtFpc"].text = "4000";
+    ChangeOptionsControl(p.options, 2);
+    EXPECT_TRUE(p.options.applyEnabled);
+
+    OptionsApply(p, f.services, Association(f));
+    EXPECT_EQ(f.section("DefSoilProp").at("ExpBearing"), "2500");
+    EXPECT_EQ(f.section("DefMatProp").at("Fpc"), "3000");
+    EXPECT_EQ(p.settings.defaults.Fpc, 3000);
+    EXPECT_FALSE(p.options.TabChanged[5]);
+    EXPECT_TRUE(p.options.TabChanged[2]);
+    EXPECT_FALSE(p.options.applyEnabled);
+    EXPECT_TRUE(p.options.visible);
+
+    // The program tab: its options, and the association written when asked.
+    form["tabOptions"].selectedIndex = 0;
+    form["cbUseBeta"].checked = true;
+    form["cbAssociate"].checked = true;
+    OptionsApply(p, f.services, Association(f));
+    EXPECT_EQ(p.settings.options.UseBeta, 1);
+    EXPECT_EQ(f.section("Program Data").at("UseBeta"), "1");
+    EXPECT_TRUE(std::filesystem::exists(f.scratch.path() / "share/applications/korvath3.desktop"));
+}
