@@ -1,5 +1,6 @@
 #include "input/input_events.h"
 #include "shell/lifecycle/analysis_reset.h"
+#include "shell/lifecycle/print_commands.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
 
@@ -53,6 +54,9 @@ TEST(ProjectLifecycle, TheStateTableFromStartToAnalysisAndBack) {
     NewProjectReset(p, f.services, ProjectKind::Compressible);
     EXPECT_EQ(project.caption, "Korvath 3.0 - Untitled");
     EXPECT_EQ(Commands(project), "-save +button4 +saveAs +input +analysis -output -print ");
+    EXPECT_FALSE(MenuEnabled(project, "mnuSave"));
+    EXPECT_TRUE(ToolbarButtonEnabled(project, 4) && ToolbarButtonEnabled(project, 9));
+    EXPECT_FALSE(ToolbarButtonEnabled(project, 10) || ToolbarButtonEnabled(project, 6));
     EXPECT_TRUE(p.input.visible);
     EXPECT_EQ(p.input.CurrentInputTab, 1);
     EXPECT_EQ(p.input.form["cboSoilType"].text, "Compressible Soils");
@@ -71,6 +75,8 @@ TEST(ProjectLifecycle, TheStateTableFromStartToAnalysisAndBack) {
     // line load.
     EXPECT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
     EXPECT_EQ(Commands(project), "+save +button4 +saveAs +input +analysis +output +print ");
+    EXPECT_TRUE(MenuEnabled(project, "mnuOutput") && MenuEnabled(project, "mnuPrint"));
+    EXPECT_TRUE(ToolbarButtonEnabled(project, 10) && ToolbarButtonEnabled(project, 6));
     EXPECT_TRUE(p.output.visible);
     EXPECT_FALSE(p.input.visible);
     EXPECT_EQ(p.output.tabMain.count(), 4);
@@ -342,4 +348,35 @@ TEST(ProjectLifecycle, WindowPlacementKeepsAPlaceOnTheScreenAndTheEndWritesIt) {
     EndProgram(f.program, f.services, "1200", "800");
     EXPECT_EQ(f.section("Program Data").at("StartX"), "1200");
     EXPECT_EQ(f.section("Program Data").at("RecentFile1"), "/lot.kvt");
+}
+
+TEST(ProjectLifecycle, PrintingNeedsResultsAndReadsTheDefaultReportFromTheOptions) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    OpenRecentProject(p, f.services, f.Example("compressible_edge_down"));
+    PrintCommand(p, {"Arial"}, "PDF");
+    EXPECT_FALSE(p.print.visible);
+
+    ASSERT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
+    PrintCommand(p, {"Arial"}, "PDF");
+    EXPECT_TRUE(p.print.visible);
+
+    // A fresh store's default report holds every page: on compressible soil with edge down and
+    // neither uniform foundation nor line load, 8 sheets.
+    std::optional<PrintJob> job = PrintButton(p, f.services);
+    ASSERT_TRUE(job);
+    EXPECT_EQ(job->totalSheets, 8);
+    EXPECT_EQ(job->pages.at(1).procedure, "PrintRDCS_Comp");
+
+    // Only the line load page in the default report: nothing to print, the dialog stays.
+    ChangeDefaultReport(p, f.services);
+    EXPECT_EQ(p.options.form["tabOptions"].selectedIndex, 0);
+    for (int i = 0; i < 10; ++i) {
+        p.options.form[ArrayName("chkDR", i)].checked = i == 9;
+    }
+    ASSERT_TRUE(OptionsOK(p, f.services, {f.scratch.path(), "korvath3"}));
+    PrintCommand(p, {"Arial"}, "PDF");
+    EXPECT_FALSE(PrintButton(p, f.services));
+    EXPECT_EQ(f.dialogs.messages.back().title, "Print Warning");
+    EXPECT_TRUE(p.print.visible);
 }
