@@ -40,17 +40,13 @@ std::string FaultText(const CheckFault& fault) {
 } // namespace
 
 int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream& err) {
-    std::optional<LoadedProject> loaded = LoadProject(options.project, options.defaults, err);
+    int failureStatus = ExitAnalysed;
+    std::optional<LoadedProject> loaded = LoadCheckedProject(
+        options.project, options.defaults, options.check, options.json, out, err, failureStatus);
     if (!loaded) {
-        return ExitFileError;
+        return failureStatus;
     }
     DesignRecord& record = loaded->record;
-    if (options.check) {
-        if (const std::optional<InputFault> fault = FindProjectInputFault(record)) {
-            PrintInputFault(options.project, loaded->version, *fault, options.json, out, err);
-            return ExitInputError;
-        }
-    }
     ResultsRecord results;
 
     std::optional<CheckFault> fault;

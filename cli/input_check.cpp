@@ -1,5 +1,8 @@
 #include "cli/input_check.h"
 
+#include "cli/exit_status.h"
+#include "cli/project_loading.h"
+
 #include "engine/checked_math.h"
 #include "engine/tendon_size.h"
 #include "input/input_form.h"
@@ -36,4 +39,23 @@ void PrintInputFault(const std::filesystem::path& project, int version, const In
     }
     err << "korvath3-cli: " << project.string() << " is not analysed: " << fault.message << " (tab "
         << fault.tab << " \"" << page << "\", " << fault.control << ")\n";
+}
+
+std::optional<LoadedProject> LoadCheckedProject(const std::filesystem::path& project,
+                                                const DesignRecord& defaults, bool check, bool json,
+                                                std::ostream& out, std::ostream& err,
+                                                int& failureStatus) {
+    std::optional<LoadedProject> loaded = LoadProject(project, defaults, err);
+    if (!loaded) {
+        failureStatus = ExitFileError;
+        return std::nullopt;
+    }
+    if (check) {
+        if (const std::optional<InputFault> fault = FindProjectInputFault(loaded->record)) {
+            PrintInputFault(project, loaded->version, *fault, json, out, err);
+            failureStatus = ExitInputError;
+            return std::nullopt;
+        }
+    }
+    return loaded;
 }

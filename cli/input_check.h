@@ -17,3 +17,13 @@ std::optional<InputFault> FindProjectInputFault(const DesignRecord& record);
 // "page", "control", "message"}} on the output stream.
 void PrintInputFault(const std::filesystem::path& project, int version, const InputFault& fault,
                      bool json, std::ostream& out, std::ostream& err);
+
+struct LoadedProject;
+
+// Reads the project and, when `check` is on, runs the value check on it, telling a failure as
+// the command line does. Gives the project, or nothing with `failureStatus` set to the exit
+// status of the file error or the input error.
+std::optional<LoadedProject> LoadCheckedProject(const std::filesystem::path& project,
+                                                const DesignRecord& defaults, bool check, bool json,
+                                                std::ostream& out, std::ostream& err,
+                                                int& failureStatus);

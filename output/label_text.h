@@ -2,6 +2,7 @@
 
 #include "shell/form_model.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,3 +26,16 @@ void SetPairArray(FormModel& form, std::string_view array, double shortValue, do
 
 // The control names of the array pair `name(0)`, `name(1)`.
 std::vector<std::string> PairArray(std::string_view array);
+
+// The Beta distances of a selected variables page: on expansive soil one row, on compressible
+// soil the center down row and, with edge down, the edge down row (`values` items 2 and 3).
+struct BetaDistances {
+    double shortDirection = 0;
+    double longDirection = 0;
+    double centerDownShort = 0;
+    double centerDownLong = 0;
+    double edgeDownShort = 0;
+    double edgeDownLong = 0;
+};
+void SetBetaRows(FormModel& form, std::string_view captions, std::string_view values,
+                 std::int16_t soilType, std::int16_t clSettleState, const BetaDistances& beta);

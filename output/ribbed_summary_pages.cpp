@@ -237,23 +237,9 @@ void FillSelectedVariablesPage(FormModel& form, const DesignRecord& record,
     SetNumber(form, "lblSXBS", r.SecModBottomShort, "#,##0.00");
     SetNumber(form, "lblSXBL", r.SecModBottomLong, "#,##0.00");
 
-    const bool edgeDownRow = record.SoilType != 0 && record.CLSettleState == 1;
-    if (record.SoilType != 0) {
-        SetLabel(form, ArrayName("lblSV", 0), "Beta Distance (Center Down) :");
-        SetPairArray(form, "lblBETA", r.BetaCDShort, r.BetaCDLong, "#,##0.00");
-        if (edgeDownRow) {
-            SetLabel(form, ArrayName("lblSV", 1), "Beta Distance  (Edge Down) :");
-            SetNumber(form, ArrayName("lblBETA", 2), r.BetaEDShort, "#,##0.00");
-            SetNumber(form, ArrayName("lblBETA", 3), r.BetaEDLong, "#,##0.00");
-        }
-    } else {
-        SetLabel(form, ArrayName("lblSV", 0), "Beta Distance :");
-        SetPairArray(form, "lblBETA", r.BetaShort, r.BetaLong, "#,##0.00");
-    }
-    for (const std::string& name :
-         {ArrayName("lblSV", 1), ArrayName("lblBETA", 2), ArrayName("lblBETA", 3)}) {
-        ShowLabel(form, name, edgeDownRow);
-    }
+    SetBetaRows(
+        form, "lblSV", "lblBETA", record.SoilType, record.CLSettleState,
+        {r.BetaShort, r.BetaLong, r.BetaCDShort, r.BetaCDLong, r.BetaEDShort, r.BetaEDLong});
 
     // The equivalent depth says something only where a direction has two groups of beams of
     // different depths.

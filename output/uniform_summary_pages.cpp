@@ -119,20 +119,7 @@ void FillUniformPrestressPage(FormModel& form, const DesignRecord& record, const
     SetPairArray(form, "lbleqAREA", r.UTAreaShort, r.UTAreaLong, "#,##0.00");
     SetPairArray(form, "lbleqIX", r.UTInertiaShort, r.UTInertiaLong, "#,##0.00");
     SetPairArray(form, "lbleqSX", r.UTSecModShort, r.UTSecModLong, "#,##0.00");
-    const bool edgeDownRow = record.SoilType != 0 && record.CLSettleState == 1;
-    if (record.SoilType != 0) {
-        SetLabel(form, ArrayName("lbleqSV", 0), "Beta Distance (Center Down) :");
-        SetPairArray(form, "lbleqBETA", r.UTBetaCDShort, r.UTBetaCDLong, "#,##0.00");
-        if (edgeDownRow) {
-            SetNumber(form, ArrayName("lbleqBETA", 2), r.UTBetaEDShort, "#,##0.00");
-            SetNumber(form, ArrayName("lbleqBETA", 3), r.UTBetaEDLong, "#,##0.00");
-        }
-    } else {
-        SetLabel(form, ArrayName("lbleqSV", 0), "Beta Distance :");
-        SetPairArray(form, "lbleqBETA", r.UTBetaShort, r.UTBetaLong, "#,##0.00");
-    }
-    for (const std::string& name :
-         {ArrayName("lbleqSV", 1), ArrayName("lbleqBETA", 2), ArrayName("lbleqBETA", 3)}) {
-        ShowLabel(form, name, edgeDownRow);
-    }
+    SetBetaRows(form, "lbleqSV", "lbleqBETA", record.SoilType, record.CLSettleState,
+                {r.UTBetaShort, r.UTBetaLong, r.UTBetaCDShort, r.UTBetaCDLong, r.UTBetaEDShort,
+                 r.UTBetaEDLong});
 }
