@@ -1,0 +1,59 @@
+#include "reports/page_writer.h"
+
+PageWriter::PageWriter(PageContext& page, const LineHeights& heights)
+    : m_page(page), m_heights(heights) {}
+
+void PageWriter::Begin(const std::string& title) {
+    DrawingSurface& s = surface();
+    s.SetFontName(m_page.fontName);
+    UnboldBlack(s);
+    PrintHeader(m_page, lineHeight());
+    m_y = BodyTop(lineHeight());
+    s.SetFontSize(12);
+    s.SetBold(true);
+    s.SetUnderline(true);
+    s.DrawText(CentredX(s, title), m_y, title);
+    s.SetUnderline(false);
+    UnboldBlack(s);
+    s.SetFontSize(10);
+    Step(2);
+}
+
+void PageWriter::End(bool lastPage) {
+    PrintFooter(m_page, lineHeight());
+    if (!lastPage) {
+        surface().NewPage();
+    }
+}
+
+void PageWriter::Heading(const std::string& text, double size) {
+    DrawingSurface& s = surface();
+    s.SetFontSize(size);
+    s.SetBold(true);
+    s.SetUnderline(true);
+    s.DrawText(m_page.column1, m_y, text);
+    s.SetUnderline(false);
+    s.SetBold(false);
+    s.SetFontSize(10);
+}
+
+void PageWriter::Label(const std::string& text) {
+    surface().DrawText(m_page.column2, m_y, text);
+}
+
+void PageWriter::Text(double x, const std::string& text) {
+    surface().DrawText(x, m_y, text);
+}
+
+void PageWriter::Value(double rightEdge, const std::string& value, const std::string& unit) {
+    DrawRightAligned(surface(), rightEdge, m_y, value, unit);
+}
+
+double PageWriter::TextAt(double x, double shift, const std::string& text) {
+    surface().DrawText(x, m_y + shift, text);
+    return x + surface().TextWidth(text);
+}
+
+void PageWriter::Step(int lines) {
+    m_y += lineHeight() * lines;
+}
