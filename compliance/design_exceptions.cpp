@@ -73,56 +73,69 @@ constexpr const char* NoExceptions = "NO PTI EXCEPTIONS EXIST";
 
 } // namespace
 
+RibbedRules RibbedRulesBroken(const DesignRecord& record, const ResultsRecord& results) {
+    RibbedRules broken{};
+    const BeamRulesBroken beams = BeamRulesBrokenBy(record);
+    broken[0] = beams.tooNarrow;
+    broken[1] = beams.tooWide;
+    broken[2] = beams.tooShallow;
+    broken[3] = beams.notBelowSlab;
+    const Real ratioShort = DepthRatio(record.QS1, record.DS1, record.QS2, record.DS2);
+    const Real ratioLong = DepthRatio(record.QL1, record.DL1, record.QL2, record.DL2);
+    broken[4] = ratioShort > 1.2 || ratioLong > 1.2;
+    // The spacings used in the analysis, after the six foot rule has lifted them.
+    broken[5] = results.SpacingShort > 15 || results.SpacingLong > 15;
+    broken[6] = (results.SpacingShort < 6 || results.SpacingLong < 6) && record.SixFtRule == 0;
+    // The texts say "greater than", but exactly 50 psi and exactly 2500 psi pass.
+    broken[7] = results.PsCenterShort < 50 || results.PsCenterLong < 50;
+    broken[8] = record.Fpc < 2500;
+    return broken;
+}
+
 void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, std::int16_t& count,
                       StyledText& box) {
     Clear(box);
 
-    const BeamRulesBroken beams = BeamRulesBrokenBy(record);
-    if (beams.tooNarrow) {
+    const RibbedRules broken = RibbedRulesBroken(record, results);
+    if (broken[0]) {
         ReportException(box, count,
                         {"BEAM WIDTHS USED IN ANALYSIS SHALL NOT BE LESS THAN 8 INCHES"},
                         "(PTI 3rd Edition 4.5.2.3)");
     }
-    if (beams.tooWide) {
+    if (broken[1]) {
         ReportException(box, count,
                         {"BEAM WIDTHS USED IN ANALYSIS SHALL NOT BE GREATER THAN 14 INCHES"},
                         "(PTI 3rd Edition 4.5.2.3)");
     }
-    if (beams.tooShallow) {
+    if (broken[2]) {
         ReportException(box, count, {"BEAM DEPTHS SHALL NOT BE LESS THAN 11 INCHES"},
                         "(PTI 3rd Edition 4.5.2.2)");
     }
-    if (beams.notBelowSlab) {
+    if (broken[3]) {
         ReportException(box, count,
                         {"BEAMS MUST EXTEND AT LEAST 7 INCHES BELOW THE BOTTOM OF THE SLAB"},
                         "(PTI 3rd Edition 4.5.2.2)");
     }
-
-    const Real ratioShort = DepthRatio(record.QS1, record.DS1, record.QS2, record.DS2);
-    const Real ratioLong = DepthRatio(record.QL1, record.DL1, record.QL2, record.DL2);
-    if (ratioShort > 1.2 || ratioLong > 1.2) {
+    if (broken[4]) {
         ReportException(box, count,
                         {"DIFFERENT BEAM DEPTHS USED IN ANALYSIS SHALL NOT HAVE A RATIO BETWEEN",
                          "THE DEEPEST AND SHALLOWEST BEAM DEPTH EXCEED 1.2"},
                         "(PTI 3rd Edition 4.5.2.2)");
     }
-
-    // The spacings used in the analysis, after the six foot rule has lifted them.
-    if (results.SpacingShort > 15 || results.SpacingLong > 15) {
+    if (broken[5]) {
         ReportException(box, count, {"BEAM SPACING SHALL BE A MAXIMUM OF 15 FEET"},
                         "(PTI 3rd Edition 4.5.2.1)");
     }
-    if ((results.SpacingShort < 6 || results.SpacingLong < 6) && record.SixFtRule == 0) {
+    if (broken[6]) {
         ReportException(box, count, {"BEAM SPACING USED IN ANALYSIS SHALL BE A MINIMUM OF 6 FEET"},
                         "(PTI 3rd Edition 4.5.2.1)");
     }
-    // The texts say "greater than", but exactly 50 psi and exactly 2500 psi pass.
-    if (results.PsCenterShort < 50 || results.PsCenterLong < 50) {
+    if (broken[7]) {
         ReportException(box, count,
                         {"MINIMUM RESIDUAL PRESTRESS FORCE SHALL BE GREATER THAN 0.05A"},
                         "(PTI 3rd Edition 6.7)");
     }
-    if (record.Fpc < 2500) {
+    if (broken[8]) {
         ReportException(box, count,
                         {"28-DAY COMPRESSIVE STRENGTH OF CONCRETE SHALL BE GREATER THAN 2500 PSI"},
                         "(PTI 3rd Edition 7.1)");

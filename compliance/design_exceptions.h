@@ -4,6 +4,7 @@
 #include "engine/design_record.h"
 #include "engine/results_record.h"
 
+#include <array>
 #include <cstdint>
 
 // The rules of the PTI manual that the geometry and the materials of a design break, apart from
@@ -18,6 +19,13 @@
 // throws ArithmeticFault.
 void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, std::int16_t& count,
                       StyledText& box);
+
+// The nine rules of the ribbed foundation in the order of the list, each true when broken: beam
+// widths under 8 in, over 14 in, depths under 11 in, beams less than 7 in below the slab, the
+// depth ratio over 1.2, spacings over 15 ft, under 6 ft without the six foot rule, prestress
+// under 50 psi, concrete under 2500 psi. The depth ratio throws as RibbedExceptions does.
+using RibbedRules = std::array<bool, 9>;
+RibbedRules RibbedRulesBroken(const DesignRecord& record, const ResultsRecord& results);
 
 // Writes the uniform thickness foundation's exceptions into its own box. A ribbed foundation
 // with exceptions (`ribbedCount`, as RibbedExceptions left it) makes the uniform thickness
