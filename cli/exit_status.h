@@ -7,4 +7,5 @@ enum ExitStatus : int {
     ExitFileError = 2,
     ExitEngineFault = 3,
     ExitInputError = 4,
+    ExitNothingToPrint = 5,
 };

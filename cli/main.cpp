@@ -4,6 +4,7 @@
 #include "cli/check_command.h"
 #include "cli/exit_status.h"
 #include "cli/new_command.h"
+#include "cli/report_command.h"
 #include "cli/results_command.h"
 #include "cli/stderr_dialogs.h"
 #include "cli/upgrade_command.h"
@@ -13,6 +14,7 @@
 #include "shell/qt/ini_settings_store.h"
 
 #include <CLI/CLI.hpp>
+#include <QGuiApplication>
 #include <cstdlib>
 #include <iostream>
 #include <optional>
@@ -121,6 +123,49 @@ int main(int argc, char** argv) {
                      "Display all values of the line load compliance list (0 or 1)")
         ->check(CLI::IsMember({0, 1}));
 
+    ReportOptions report;
+    SettingsFlags reportFlags;
+    bool reportNoCheck = false;
+    std::string reportRange = "default";
+    std::optional<std::int16_t> reportColour;
+    std::optional<std::int16_t> reportShowAll;
+    CLI::App* reportCommand =
+        app.add_subcommand("report", "Analyse a project and write its printed report as a PDF");
+    reportCommand->add_option("PROJECT", report.project, "Project file (.kvt)")->required();
+    reportCommand->add_option("-o,--output", report.output, "The PDF to write")->required();
+    reportCommand->add_option("--range", reportRange, "default, entire or selected")
+        ->check(CLI::IsMember({"default", "entire", "selected"}));
+    reportCommand
+        ->add_option("--pages", report.pages,
+                     "The pages of the selected range, 0 to 9, separated by commas")
+        ->delimiter(',')
+        ->check(CLI::Range(0, 9));
+    reportCommand
+        ->add_option("--color", reportColour,
+                     "Items out of their limits in red (1) or in bold (0); default from the "
+                     "settings")
+        ->check(CLI::IsMember({0, 1}));
+    reportCommand
+        ->add_option("--show-all", reportShowAll,
+                     "List the items within their limits too (0 or 1); default from the settings")
+        ->check(CLI::IsMember({0, 1}));
+    reportCommand->add_option("--font", report.font, "The report's font (Arial)");
+    reportCommand
+        ->add_option("--use-beta", reportFlags.useBeta,
+                     "Stresses from the force at Beta (0 or 1); default from the settings")
+        ->check(CLI::IsMember({0, 1}));
+    reportCommand
+        ->add_option("--use-beam-only", reportFlags.useBeamOnly,
+                     "Bearing on the beam bottoms alone (0 or 1); default from the settings")
+        ->check(CLI::IsMember({0, 1}));
+    reportCommand
+        ->add_option("--show-dd", reportFlags.showDD,
+                     "Also the differential deflection analysis (0 or 1); default from the "
+                     "settings")
+        ->check(CLI::IsMember({0, 1}));
+    reportCommand->add_flag("--no-check", reportNoCheck,
+                            "Run the analysis on the record as it stands, without input checks");
+
     std::filesystem::path upgradeInput;
     std::filesystem::path upgradeOutput;
     CLI::App* upgradeCommand =
@@ -167,6 +212,24 @@ int main(int argc, char** argv) {
         results.defaults = settings->defaults;
         results.colour = ColourOnStandardOutput();
         return RunResultsCommand(results, std::cout, std::cerr);
+    }
+    if (*reportCommand) {
+        report.check = !reportNoCheck;
+        report.settings = reportFlags.over(settings->options);
+        report.defaults = settings->defaults;
+        report.defaultPages = settings->options.DefaultPages;
+        report.colour = reportColour.value_or(settings->options.PrintColor) == 1;
+        report.showAll = reportShowAll.value_or(settings->options.PrintAll) == 1;
+        report.range = reportRange == "entire"     ? PrintRange::Entire
+                       : reportRange == "selected" ? PrintRange::Selected
+                                                   : PrintRange::Default;
+        // The report's fonts come from the desktop's font system, without a window.
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+        int qtArgc = 1;
+        QGuiApplication fonts(qtArgc, argv);
+        return RunReportCommand(report, std::cout, std::cerr);
     }
     if (*newCommand) {
         const ProjectKind kind = newKind == "compressible" ? ProjectKind::Compressible

@@ -44,7 +44,7 @@ void Opening(PageWriter& w) {
 void Block(PageWriter& w, const std::string& heading, const std::vector<Check>& checks) {
     DrawingSurface& s = w.surface();
     w.Heading(heading, 12);
-    w.Step();
+    w.StepPastHeading(12);
     bool printed = false;
     for (const Check& check : checks) {
         if (check.fails) {
@@ -262,7 +262,7 @@ void RibbedFoundationCompliance(PageWriter& w, bool expansive) {
     PageContext& page = w.page();
     DrawingSurface& s = w.surface();
     w.Heading("RIBBED FOUNDATION COMPLIANCE : ", 12);
-    w.Step();
+    w.StepPastHeading(12);
     if (page.RibbedOutCount > 0) {
         if (page.colour) {
             BoldRed(s);

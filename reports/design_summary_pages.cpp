@@ -8,17 +8,22 @@ constexpr double ValueEdge = 8280;       // the single value column
 constexpr double FirstTypeCentre = 6040; // "Type I Beam", values right-aligned on it
 constexpr double SecondTypeCentre = 8250;
 constexpr double SecondTypeEdge = 8280;
+// The uniform page's selected variables have longer labels: their short column stands further
+// right than the beam tables' first column.
+constexpr double VariablesShortCentre = 6900;
+constexpr double VariablesShortEdge = 7200;
 
 std::string F(double value, const char* pattern) {
     return FormatNumber(value, pattern);
 }
 
-// Two bold, underlined column heads centred on the type columns.
-void ColumnHeads(PageWriter& w, const std::string& first, const std::string& second) {
+// Two bold, underlined column heads centred on the columns.
+void ColumnHeads(PageWriter& w, const std::string& first, const std::string& second,
+                 double firstCentre = FirstTypeCentre) {
     DrawingSurface& s = w.surface();
     s.SetBold(true);
     s.SetUnderline(true);
-    w.Text(FirstTypeCentre - s.TextWidth(first) / 2, first);
+    w.Text(firstCentre - s.TextWidth(first) / 2, first);
     w.Text(SecondTypeCentre - s.TextWidth(second) / 2, second);
     s.SetUnderline(false);
     s.SetBold(false);
@@ -174,16 +179,16 @@ void PrintUDS(PageContext& page, const LineHeights& heights, bool lastPage) {
     }
     w.Heading("Selected Variables");
     w.Step();
-    ColumnHeads(w, "Short", "Long");
+    ColumnHeads(w, "Short", "Long", VariablesShortCentre);
     w.Step();
-    ColumnHeads(w, "Direction", "Direction");
+    ColumnHeads(w, "Direction", "Direction", VariablesShortCentre);
     w.Step();
     const auto superscriptRow = [&w](const std::string& before, const std::string& power,
                                      double shortValue, double longValue, const char* pattern) {
         double x = w.TextAt(w.page().column2, 0, before);
         x = w.TextAt(x, -30, power);
         w.TextAt(x, 0, ") :");
-        w.Value(FirstTypeCentre, F(shortValue, pattern));
+        w.Value(VariablesShortEdge, F(shortValue, pattern));
         w.Value(SecondTypeEdge, F(longValue, pattern));
         w.Step();
     };
@@ -191,15 +196,18 @@ void PrintUDS(PageContext& page, const LineHeights& heights, bool lastPage) {
     superscriptRow("Moment of Inertia  (Inch", "4", res.UTInertiaShort, res.UTInertiaLong, "#,##0");
     superscriptRow("Section Modulus, Top and Bottom  (Inch", "3", res.UTSecModShort,
                    res.UTSecModLong, "#,##0");
+    const auto betaRow = [&w](const std::string& label, double shortValue, double longValue) {
+        w.Label(label);
+        w.Value(VariablesShortEdge, F(shortValue, "#,##0.00"));
+        w.Value(SecondTypeEdge, F(longValue, "#,##0.00"));
+        w.Step();
+    };
     if (r.SoilType == 0) {
-        TwoValues(w, "Beta Distance (Feet) :", F(res.UTBetaShort, "#,##0.00"),
-                  F(res.UTBetaLong, "#,##0.00"));
+        betaRow("Beta Distance (Feet) :", res.UTBetaShort, res.UTBetaLong);
     } else {
-        TwoValues(w, "Beta Distance (Center Down) (Feet) :", F(res.UTBetaCDShort, "#,##0.00"),
-                  F(res.UTBetaCDLong, "#,##0.00"));
+        betaRow("Beta Distance (Center Down) (Feet) :", res.UTBetaCDShort, res.UTBetaCDLong);
         if (r.CLSettleState == 1) {
-            TwoValues(w, "Beta Distance (Edge Down) (Feet) :", F(res.UTBetaEDShort, "#,##0.00"),
-                      F(res.UTBetaEDLong, "#,##0.00"));
+            betaRow("Beta Distance (Edge Down) (Feet) :", res.UTBetaEDShort, res.UTBetaEDLong);
         }
     }
     OneValue(w, "Jacking Force :", F(res.TendonJackForce, "##0.00"), "  KIPS ");

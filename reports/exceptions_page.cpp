@@ -41,7 +41,7 @@ void PrintRule(PageWriter& w, const PaperRule& rule) {
     BoldBlack(s);
     for (std::size_t i = 0; i < rule.lines.size(); ++i) {
         w.Text(i == 0 ? column1 : column1 + 300, rule.lines[i]);
-        w.Step();
+        w.StepPastHeading(11);
     }
     s.SetFontSize(10);
     UnboldBlack(s);

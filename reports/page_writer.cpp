@@ -57,3 +57,10 @@ double PageWriter::TextAt(double x, double shift, const std::string& text) {
 void PageWriter::Step(int lines) {
     m_y += lineHeight() * lines;
 }
+
+void PageWriter::StepPastHeading(double points) {
+    const double height = points >= 14   ? m_heights.points14
+                          : points >= 12 ? m_heights.points12
+                                         : lineHeight();
+    m_y += height + lineHeight() / 4;
+}

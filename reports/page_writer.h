@@ -24,6 +24,8 @@ class PageWriter {
     // A text raised (negative) or lowered by `shift` twips, placed after the text before it.
     double TextAt(double x, double shift, const std::string& text);
     void Step(int lines = 1);
+    // Moves down past a heading of `points` size: its own height and a little air.
+    void StepPastHeading(double points);
 
     PageContext& page() { return m_page; }
     DrawingSurface& surface() { return m_page.surface; }

@@ -1,0 +1,83 @@
+#include "cli/report_command.h"
+
+#include "cli/exit_status.h"
+#include "cli/input_check.h"
+#include "cli/project_analysis.h"
+#include "cli/project_loading.h"
+#include "cli/stderr_dialogs.h"
+#include "engine/analysis_run.h"
+#include "output/results_screen.h"
+#include "reports/qt/pdf_report.h"
+#include "reports/report_run.h"
+#include "shell/clock.h"
+#include "storage/file_error.h"
+
+#include <ostream>
+
+int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostream& err) {
+    int failureStatus = ExitAnalysed;
+    std::optional<LoadedProject> loaded = LoadCheckedProject(
+        options.project, options.defaults, options.check, false, out, err, failureStatus);
+    if (!loaded) {
+        return failureStatus;
+    }
+    DesignRecord& record = loaded->record;
+    ResultsRecord results;
+    const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
+    if (outcome.faultKind) {
+        err << "korvath3-cli: the analysis of " << options.project.string()
+            << " ended in a fault: " << FaultKindName(*outcome.faultKind) << " in stage "
+            << outcome.faultStage << " (" << AnalysisStageName(outcome.faultStage)
+            << "). No report is written.\n";
+        return ExitEngineFault;
+    }
+    ResultsScreen screen = LoadResultsScreen();
+    CompliancePass pass;
+    try {
+        pass = FillResults(screen, record, results, options.settings);
+    } catch (const ArithmeticFault& fault) {
+        err << "korvath3-cli: the design exceptions of " << options.project.string()
+            << " ended in a fault: " << FaultKindName(fault.kind)
+            << " in the beam depth ratio. No report is written.\n";
+        return ExitEngineFault;
+    }
+
+    PrintDialog dialog = LoadPrintDialog();
+    ChoosePrintRange(dialog, record, options.range);
+    for (const int page : options.pages) {
+        Control& box = dialog.form[ArrayName("Check1", page)];
+        box.checked = box.enabled;
+    }
+    dialog.form["cbbReportFont"].text = options.font;
+    StreamDialogs dialogs(err);
+    SystemClock clock;
+    std::optional<PrintJob> job = PressPrint(dialog, record, options.defaultPages, dialogs, clock);
+    if (!job) {
+        return ExitNothingToPrint;
+    }
+    for (const std::string& caption : LeaveOutMissingPages(*job)) {
+        err << "korvath3-cli: the page \"" << caption
+            << "\" is not drawn by this build yet and is left out of the report\n";
+    }
+    if (job->pages.empty()) {
+        err << "korvath3-cli: Print Warning: the range holds no page to print; nothing is "
+               "written\n";
+        return ExitNothingToPrint;
+    }
+
+    ReportSettings settings;
+    settings.projectPath = options.project.string();
+    settings.colour = options.colour;
+    settings.showAll = options.showAll;
+    settings.RibbedOutCount = pass.RibbedOutCount;
+    try {
+        WritePdfReport(options.output, *job, record, results, settings);
+    } catch (const FileError& error) {
+        err << "korvath3-cli: Error writing report - " << error.number() << ": "
+            << error.description() << " (" << options.output.string() << ")\n";
+        return ExitFileError;
+    }
+    out << "Wrote " << job->totalSheets << (job->totalSheets == 1 ? " sheet" : " sheets")
+        << " of the report to " << options.output.string() << '\n';
+    return ExitAnalysed;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "reports/drawing_surface.h"
+
+#include <QFont>
+#include <QPainter>
+#include <memory>
+#include <string>
+
+class QPagedPaintDevice;
+
+// The drawing surface on a Qt paint device of pages (a printer or a PDF writer) at 1440 dots to
+// the inch, so that a twip is a dot. "Arial" is found through fontconfig, which gives its
+// metric twin Liberation Sans.
+class PainterSurface : public DrawingSurface {
+  public:
+    PainterSurface(QPagedPaintDevice& device, std::string printerName);
+    ~PainterSurface() override;
+
+    void BeginDocument() override;
+    void NewPage() override;
+    void EndDocument() override;
+    void SetFontName(const std::string& name) override;
+    void SetFontSize(double points) override;
+    void SetBold(bool bold) override;
+    void SetUnderline(bool underline) override;
+    void SetColour(Colour colour) override;
+    void SetLineWidth(int width) override;
+    double TextWidth(std::string_view text) override;
+    double TextHeight(std::string_view text) override;
+    void DrawText(double x, double y, std::string_view text) override;
+    void DrawLine(double x1, double y1, double x2, double y2) override;
+    std::vector<std::string> FontNames() override;
+    std::string PrinterName() override { return m_printerName; }
+    int PageNumber() override { return m_page; }
+
+  private:
+    void ApplyFont();
+
+    QPagedPaintDevice& m_device;
+    std::string m_printerName;
+    std::unique_ptr<QPainter> m_painter;
+    QFont m_font;
+    QColor m_colour = Qt::black;
+    int m_lineWidth = 1;
+    int m_page = 0;
+};

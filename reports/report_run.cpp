@@ -1,0 +1,64 @@
+#include "reports/report_run.h"
+
+#include "reports/compliance_pages.h"
+#include "reports/design_summary_pages.h"
+#include "reports/exceptions_page.h"
+#include "reports/report_pages.h"
+
+#include <algorithm>
+
+PageProcedure FindPageProcedure(const std::string& name) {
+    static const std::pair<const char*, PageProcedure> procedures[] = {
+        {"PrintRDS", PrintRDS},   {"PrintUDS", PrintUDS},
+        {"PrintRDCS", PrintRDCS}, {"PrintRDCS_Comp", PrintRDCS_Comp},
+        {"PrintUDCS", PrintUDCS}, {"PrintUDCS_Comp", PrintUDCS_Comp},
+        {"PrintPE", PrintPE},
+    };
+    for (const auto& [procedureName, procedure] : procedures) {
+        if (name == procedureName) {
+            return procedure;
+        }
+    }
+    return nullptr;
+}
+
+std::vector<std::string> LeaveOutMissingPages(PrintJob& job) {
+    std::vector<std::string> leftOut;
+    std::vector<PlannedPage> kept;
+    std::int16_t sheets = 0;
+    for (const PlannedPage& page : job.pages) {
+        if (FindPageProcedure(page.procedure) == nullptr) {
+            leftOut.push_back(ReportPages().at(static_cast<std::size_t>(page.page)).caption);
+            continue;
+        }
+        kept.push_back(page);
+        sheets = static_cast<std::int16_t>(sheets + page.sheets);
+    }
+    job.pages = std::move(kept);
+    job.totalSheets = sheets;
+    return leftOut;
+}
+
+void PrintReport(DrawingSurface& surface, const PrintJob& job, const DesignRecord& record,
+                 const ResultsRecord& results, const ReportSettings& settings) {
+    PageContext page{surface, record, results, settings.projectPath, job.totalSheets};
+    page.column1 = job.column1;
+    page.column2 = job.column2;
+    page.column3 = job.column3;
+    page.timeOfDay = job.timeOfDay;
+    page.fontName = job.fontName;
+    page.colour = settings.colour;
+    page.showAll = settings.showAll;
+    page.RibbedOutCount = settings.RibbedOutCount;
+
+    surface.BeginDocument();
+    for (std::size_t i = 0; i < job.pages.size(); ++i) {
+        const PageProcedure procedure = FindPageProcedure(job.pages[i].procedure);
+        if (procedure == nullptr) {
+            continue;
+        }
+        const LineHeights heights = MeasureLineHeights(page);
+        procedure(page, heights, i + 1 == job.pages.size());
+    }
+    surface.EndDocument();
+}
