@@ -92,3 +92,37 @@ TEST(Executable, OptionsAndNewProjectsComeFromTheSettingsStore) {
     EXPECT_NE(json.find("\"SoilType\": 1"), std::string::npos);
     EXPECT_NE(json.find("\"ProjDate\": \""), std::string::npos);
 }
+
+TEST(Executable, ReportWritesAWholePdfOrNothing) {
+    ScratchFolder scratch;
+    const auto settings = scratch.path() / "settings.conf";
+    const auto cli = [&](const std::string& arguments) { return ::cli(settings, arguments); };
+    const std::string example = ExamplePath("expansive_ribbed.kvt").string();
+    const auto pdf = scratch.path() / "report.pdf";
+
+    // The entire report of a ribbed foundation on expansive soil without uniform foundation or
+    // line load: design summary, compliance, and the exceptions drawn here.
+    Outcome run = cli("report '" + example + "' -o '" + pdf.string() + "' --range entire");
+    ASSERT_EQ(run.status, 0) << run.out;
+    EXPECT_NE(run.out.find("Wrote 3 sheets of the report to"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("\"Summary of Input Data\" is not drawn by this build yet"),
+              std::string::npos);
+    const std::string bytes = FileBytes(pdf);
+    EXPECT_EQ(bytes.substr(0, 5), "%PDF-");
+
+    // Only the uniform foundation's pages, which this project does not have: the warning, exit
+    // 5, and the PDF of before untouched.
+    run = cli("report '" + example + "' -o '" + pdf.string() + "' --range selected --pages 4,5");
+    EXPECT_EQ(run.status, 5) << run.out;
+    EXPECT_EQ(FileBytes(pdf), bytes);
+
+    // A folder that does not exist: a file error, nothing written.
+    run = cli("report '" + example + "' -o '" + (scratch.path() / "none" / "r.pdf").string() + "'");
+    EXPECT_EQ(run.status, 2) << run.out;
+    EXPECT_NE(run.out.find("Error writing report - 76: Path not found"), std::string::npos)
+        << run.out;
+    EXPECT_FALSE(std::filesystem::exists(scratch.path() / "none"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scratch.path()),
+                            std::filesystem::directory_iterator()),
+              2); // the settings and the first PDF, no partial file
+}
