@@ -3,6 +3,7 @@
 #include "reports/compliance_pages.h"
 #include "reports/design_summary_pages.h"
 #include "reports/exceptions_page.h"
+#include "reports/input_data_pages.h"
 #include "reports/report_pages.h"
 
 #include <algorithm>
@@ -12,7 +13,8 @@ PageProcedure FindPageProcedure(const std::string& name) {
         {"PrintRDS", PrintRDS},   {"PrintUDS", PrintUDS},
         {"PrintRDCS", PrintRDCS}, {"PrintRDCS_Comp", PrintRDCS_Comp},
         {"PrintUDCS", PrintUDCS}, {"PrintUDCS_Comp", PrintUDCS_Comp},
-        {"PrintPE", PrintPE},
+        {"PrintPE", PrintPE},     {"PrintSOID", PrintSOID},
+        {"PrintLLA", PrintLLA},
     };
     for (const auto& [procedureName, procedure] : procedures) {
         if (name == procedureName) {
