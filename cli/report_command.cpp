@@ -55,10 +55,6 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     if (!job) {
         return ExitNothingToPrint;
     }
-    for (const std::string& caption : LeaveOutMissingPages(*job)) {
-        err << "korvath3-cli: the page \"" << caption
-            << "\" is not drawn by this build yet and is left out of the report\n";
-    }
     if (job->pages.empty()) {
         err << "korvath3-cli: Print Warning: the range holds no page to print; nothing is "
                "written\n";
@@ -70,6 +66,7 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     settings.colour = options.colour;
     settings.showAll = options.showAll;
     settings.RibbedOutCount = pass.RibbedOutCount;
+    settings.engine = options.settings;
     try {
         WritePdfReport(options.output, *job, record, results, settings);
     } catch (const FileError& error) {

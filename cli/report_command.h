@@ -25,7 +25,6 @@ struct ReportOptions {
     std::string font = "Arial";
 };
 
-// Analyses the project and writes the report of the range as a PDF. Pages this build cannot
-// draw yet are left out with a line on `err`. Gives the exit status: a run with nothing to
+// Analyses the project and writes the report of the range as a PDF. Gives the exit status: a run with nothing to
 // print writes nothing and gives ExitNothingToPrint; a file error leaves an existing PDF whole.
 int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostream& err);

@@ -24,6 +24,7 @@ struct PageContext {
     bool colour = false;  // PrintColor: items out of limits in red rather than bold
     bool showAll = false; // PrintAll: items within their limits listed too
     std::int16_t RibbedOutCount = 0;
+    EngineSettings settings{}; // UseBeta, UseBeamOnly, ShowDD of the analysis printed
 };
 
 // The width of the sheet (Letter, 8.5 in) and the fixed positions of every page.

@@ -55,7 +55,7 @@ double PageWriter::TextAt(double x, double shift, const std::string& text) {
 }
 
 void PageWriter::Step(int lines) {
-    m_y += lineHeight() * lines;
+    m_y += lineHeight() * m_lineStep * lines;
 }
 
 void PageWriter::StepPastHeading(double points) {

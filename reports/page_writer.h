@@ -24,6 +24,9 @@ class PageWriter {
     // A text raised (negative) or lowered by `shift` twips, placed after the text before it.
     double TextAt(double x, double shift, const std::string& text);
     void Step(int lines = 1);
+    // The results pages hold more lines than a sheet has at full line steps: they step by a
+    // share of the line height (1 is a whole line).
+    void SetLineStep(double share) { m_lineStep = share; }
     // Moves down past a heading of `points` size: its own height and a little air.
     void StepPastHeading(double points);
 
@@ -36,4 +39,5 @@ class PageWriter {
     PageContext& m_page;
     LineHeights m_heights;
     double m_y = 0;
+    double m_lineStep = 1;
 };

@@ -5,8 +5,8 @@
 #include "reports/exceptions_page.h"
 #include "reports/input_data_pages.h"
 #include "reports/report_pages.h"
+#include "reports/results_pages.h"
 
-#include <algorithm>
 
 PageProcedure FindPageProcedure(const std::string& name) {
     static const std::pair<const char*, PageProcedure> procedures[] = {
@@ -14,7 +14,9 @@ PageProcedure FindPageProcedure(const std::string& name) {
         {"PrintRDCS", PrintRDCS}, {"PrintRDCS_Comp", PrintRDCS_Comp},
         {"PrintUDCS", PrintUDCS}, {"PrintUDCS_Comp", PrintUDCS_Comp},
         {"PrintPE", PrintPE},     {"PrintSOID", PrintSOID},
-        {"PrintLLA", PrintLLA},
+        {"PrintLLA", PrintLLA},   {"PrintRSV", PrintRSV},
+        {"PrintRROA", PrintRROA}, {"PrintRROA_Comp", PrintRROA_Comp},
+        {"PrintUROA", PrintUROA}, {"PrintUROA_Comp", PrintUROA_Comp},
     };
     for (const auto& [procedureName, procedure] : procedures) {
         if (name == procedureName) {
@@ -22,23 +24,6 @@ PageProcedure FindPageProcedure(const std::string& name) {
         }
     }
     return nullptr;
-}
-
-std::vector<std::string> LeaveOutMissingPages(PrintJob& job) {
-    std::vector<std::string> leftOut;
-    std::vector<PlannedPage> kept;
-    std::int16_t sheets = 0;
-    for (const PlannedPage& page : job.pages) {
-        if (FindPageProcedure(page.procedure) == nullptr) {
-            leftOut.push_back(ReportPages().at(static_cast<std::size_t>(page.page)).caption);
-            continue;
-        }
-        kept.push_back(page);
-        sheets = static_cast<std::int16_t>(sheets + page.sheets);
-    }
-    job.pages = std::move(kept);
-    job.totalSheets = sheets;
-    return leftOut;
 }
 
 void PrintReport(DrawingSurface& surface, const PrintJob& job, const DesignRecord& record,
@@ -52,6 +37,7 @@ void PrintReport(DrawingSurface& surface, const PrintJob& job, const DesignRecor
     page.colour = settings.colour;
     page.showAll = settings.showAll;
     page.RibbedOutCount = settings.RibbedOutCount;
+    page.settings = settings.engine;
 
     surface.BeginDocument();
     for (std::size_t i = 0; i < job.pages.size(); ++i) {

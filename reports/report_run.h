@@ -11,12 +11,8 @@
 
 using PageProcedure = void (*)(PageContext& page, const LineHeights& heights, bool lastPage);
 
-// The procedure of that name, or nothing for a page this build cannot draw yet.
+// The procedure of that name; an unknown name is a programming error and gives nothing.
 PageProcedure FindPageProcedure(const std::string& name);
-
-// Leaves out the pages whose procedure this build cannot draw, recounting the sheets; gives the
-// captions of the pages left out.
-std::vector<std::string> LeaveOutMissingPages(PrintJob& job);
 
 // What a run needs beyond the job: the project, its results and the report's flags.
 struct ReportSettings {
@@ -24,6 +20,7 @@ struct ReportSettings {
     bool colour = false;
     bool showAll = false;
     std::int16_t RibbedOutCount = 0;
+    EngineSettings engine{}; // the options the analysis ran with
 };
 
 // Begins the document, draws every page of the job in order and ends the document. A job
