@@ -1,5 +1,6 @@
 # Korvath 3: everything a newcomer needs on a fresh Debian 12 machine.
-#   make run    install what is missing, build, and analyse and check the bundled examples
+#   make run    install what is missing, build, analyse and check the bundled examples and
+#               write their entire reports to build/reports/
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
 #   make bench  time the analysis and the project files
 
@@ -36,9 +37,14 @@ build: configure
 	cmake --build --preset dev
 
 run: build
+	@mkdir -p build/reports
 	@for project in $(EXAMPLES); do \
 	  $(CLI) analyze "$$project" || exit $$?; echo; \
 	  $(CLI) check "$$project" || exit $$?; echo; \
+	done
+	@for project in $(EXAMPLES); do \
+	  $(CLI) report "$$project" --range entire -o "build/reports/$$(basename "$$project" .kvt).pdf" \
+	    || exit $$?; \
 	done
 
 test: build test-asan

@@ -132,7 +132,9 @@ int main(int argc, char** argv) {
     CLI::App* reportCommand =
         app.add_subcommand("report", "Analyse a project and write its printed report as a PDF");
     reportCommand->add_option("PROJECT", report.project, "Project file (.kvt)")->required();
-    reportCommand->add_option("-o,--output", report.output, "The PDF to write")->required();
+    reportCommand->add_option("-o,--output", report.output, "The PDF to write");
+    reportCommand->add_flag("--json", report.json,
+                            "Print every text and line of every sheet as JSON, instead of a PDF");
     reportCommand->add_option("--range", reportRange, "default, entire or selected")
         ->check(CLI::IsMember({"default", "entire", "selected"}));
     reportCommand
@@ -214,6 +216,10 @@ int main(int argc, char** argv) {
         return RunResultsCommand(results, std::cout, std::cerr);
     }
     if (*reportCommand) {
+        if (report.output.empty() && !report.json) {
+            std::cerr << "korvath3-cli report: --output is required (or --json)\n";
+            return ExitBadUsage;
+        }
         report.check = !reportNoCheck;
         report.settings = reportFlags.over(settings->options);
         report.defaults = settings->defaults;
@@ -227,6 +233,8 @@ int main(int argc, char** argv) {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }
+        // Qt's own notices (a missing runtime folder, ...) are no concern of a batch run.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         int qtArgc = 1;
         QGuiApplication fonts(qtArgc, argv);
         return RunReportCommand(report, std::cout, std::cerr);

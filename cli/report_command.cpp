@@ -8,11 +8,50 @@
 #include "engine/analysis_run.h"
 #include "output/results_screen.h"
 #include "reports/qt/pdf_report.h"
+#include "reports/recording_surface.h"
 #include "reports/report_run.h"
 #include "shell/clock.h"
 #include "storage/file_error.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
+
+namespace {
+
+nlohmann::ordered_json ColourJson(Colour colour) {
+    return {colour.red, colour.green, colour.blue};
+}
+
+// Every sheet as the recording surface kept it: texts with their place and style, and lines.
+nlohmann::ordered_json SheetsJson(const RecordingSurface& surface) {
+    nlohmann::ordered_json sheets = nlohmann::ordered_json::array();
+    for (const RecordedSheet& sheet : surface.sheets()) {
+        nlohmann::ordered_json texts = nlohmann::ordered_json::array();
+        for (const RecordedText& t : sheet.texts) {
+            texts.push_back({{"x", t.x},
+                             {"y", t.y},
+                             {"text", t.text},
+                             {"font", t.font},
+                             {"size", t.size},
+                             {"bold", t.bold},
+                             {"underline", t.underline},
+                             {"colour", ColourJson(t.colour)}});
+        }
+        nlohmann::ordered_json lines = nlohmann::ordered_json::array();
+        for (const RecordedLine& l : sheet.lines) {
+            lines.push_back({{"x1", l.x1},
+                             {"y1", l.y1},
+                             {"x2", l.x2},
+                             {"y2", l.y2},
+                             {"width", l.width},
+                             {"colour", ColourJson(l.colour)}});
+        }
+        sheets.push_back({{"texts", std::move(texts)}, {"lines", std::move(lines)}});
+    }
+    return sheets;
+}
+
+} // namespace
 
 int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostream& err) {
     int failureStatus = ExitAnalysed;
@@ -67,6 +106,21 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     settings.showAll = options.showAll;
     settings.RibbedOutCount = pass.RibbedOutCount;
     settings.engine = options.settings;
+    if (options.json) {
+        RecordingSurface surface;
+        PrintReport(surface, *job, record, results, settings);
+        nlohmann::ordered_json document;
+        document["version"] = loaded->version;
+        document["totalSheets"] = job->totalSheets;
+        nlohmann::ordered_json pages = nlohmann::ordered_json::array();
+        for (const PlannedPage& page : job->pages) {
+            pages.push_back(page.procedure);
+        }
+        document["pages"] = std::move(pages);
+        document["sheets"] = SheetsJson(surface);
+        out << document.dump(2) << '\n';
+        return ExitAnalysed;
+    }
     try {
         WritePdfReport(options.output, *job, record, results, settings);
     } catch (const FileError& error) {

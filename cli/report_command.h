@@ -23,8 +23,11 @@ struct ReportOptions {
     bool colour = false;
     bool showAll = false;
     std::string font = "Arial";
+    // Print what the report draws, sheet by sheet, as JSON instead of writing a PDF.
+    bool json = false;
 };
 
-// Analyses the project and writes the report of the range as a PDF. Gives the exit status: a run with nothing to
+// Analyses the project and writes the report of the range as a PDF, or with `json` prints every
+// text and line of every sheet as one JSON object. Gives the exit status: a run with nothing to
 // print writes nothing and gives ExitNothingToPrint; a file error leaves an existing PDF whole.
 int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostream& err);
