@@ -1,0 +1,186 @@
+#include "reports/input_data_pages.h"
+#include "reports/recording_surface.h"
+#include "reports/report_run.h"
+#include "reports/results_pages.h"
+
+#include "tests/compliance/compliance_test_support.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr LineHeights Heights{230, 276, 322};
+
+struct Report {
+    RecordingSurface surface;
+    DesignRecord record = PlainRibbedRecord();
+    ResultsRecord results = CompliantResults();
+    PageContext page{surface, record, results, "/lot.kvt", 1};
+
+    Report() { surface.BeginDocument(); }
+
+    std::vector<std::string> Texts(std::size_t sheet = 0) const {
+        std::vector<std::string> texts;
+        for (const RecordedText& text : surface.sheets().at(sheet).texts) {
+            texts.push_back(text.text);
+        }
+        return texts;
+    }
+
+    bool Has(const std::string& text, std::size_t sheet = 0) const {
+        const std::vector<std::string> texts = Texts(sheet);
+        return std::find(texts.begin(), texts.end(), text) != texts.end();
+    }
+
+    // The texts placed on the same line as `label`, after it, in drawing order.
+    std::vector<std::string> LineOf(const std::string& label, std::size_t sheet = 0) const {
+        const std::vector<RecordedText>& texts = surface.sheets().at(sheet).texts;
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            if (texts[i].text == label) {
+                std::vector<std::string> line;
+                for (std::size_t j = i + 1; j < texts.size() && texts[j].y == texts[i].y; ++j) {
+                    line.push_back(texts[j].text);
+                }
+                return line;
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + label);
+    }
+};
+
+} // namespace
+
+TEST(PrintReport, EveryPageDrawsTheSheetsItsRangeCountsAndNumbersThem) {
+    for (const std::int16_t soil : {0, 1}) {
+        for (const std::int16_t edgeDown : {0, 1}) {
+            for (const std::int16_t flatSlab : {0, 1}) {
+                for (const std::int16_t lineLoad : {0, 1}) {
+                    DesignRecord record = PlainRibbedRecord();
+                    record.SoilType = soil, record.CLSettleState = edgeDown;
+                    record.FlatSlab = flatSlab, record.LineLoadType = lineLoad;
+                    PrintJob job;
+                    job.pages = RangePages(PrintRange::Entire, record, {}, {});
+                    job.totalSheets = RangeSheetCount(PrintRange::Entire, record, {}, {});
+                    RecordingSurface surface;
+                    PrintReport(surface, job, record, CompliantResults(),
+                                {.projectPath = "/lot.kvt", .engine = {.ShowDD = 1}});
+                    const std::string label = std::to_string(soil) + std::to_string(edgeDown) +
+                                              std::to_string(flatSlab) + std::to_string(lineLoad);
+                    ASSERT_EQ(static_cast<int>(surface.sheets().size()), job.totalSheets) << label;
+                    EXPECT_TRUE(surface.ended());
+                    // The last sheet's footer reads "Page N of N".
+                    const std::string last = "Page " + std::to_string(job.totalSheets) + " of " +
+                                             std::to_string(job.totalSheets);
+                    const auto& texts = surface.sheets().back().texts;
+                    EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [&](const RecordedText& t) {
+                        return t.text == last;
+                    })) << label;
+                }
+            }
+        }
+    }
+}
+
+TEST(PrintSOID, LinesFollowTheRecordsChoicesAndKeepTheirCrossings) {
+    Report r;
+    r.record.MatLabel = "3000 psi concrete";
+    r.record.SoilLabel = ""; // the material label's line reads the soil label
+    r.record.BeamSpacing = 1;
+    r.record.Subgradetype = 2, r.record.UDSM = 12.5, r.record.UDLM = 10, r.record.UDSS = 4.25,
+    r.record.UDLS = 3;
+    r.record.DefCenter = 480, r.record.DefEdge = 960;
+    PrintSOID(r.page, Heights, true);
+    ASSERT_EQ(r.surface.sheets().size(), 2u);
+    EXPECT_FALSE(r.Has("Material Label :"));
+    EXPECT_TRUE(r.Has("Average beam spacing used in analysis"));
+    EXPECT_FALSE(r.Has("Spacing :"));
+    EXPECT_TRUE(r.Has("SUMMARY OF INPUT DATA - Continued", 1));
+    // "Maximum :" prints UDSM, "At Beta :" prints UDSS.
+    EXPECT_EQ(r.LineOf("Maximum :", 1), (std::vector<std::string>{"12.50 Kips", "10.00 Kips"}));
+    EXPECT_EQ(r.LineOf("At Beta :", 1), (std::vector<std::string>{"4.25 Kips", "3.00 Kips"}));
+    // A coefficient in its general form with the blanks of plain printing.
+    EXPECT_EQ(r.LineOf("Center Lift :", 1), (std::vector<std::string>{" 480 "}));
+
+    Report labelled;
+    labelled.record.SoilLabel = "Clay";
+    labelled.record.MatLabel = "3000 psi concrete";
+    labelled.record.BeamSpacing = 0, labelled.record.SMax = 15, labelled.record.SMin = 6;
+    PrintSOID(labelled.page, Heights, true);
+    EXPECT_TRUE(labelled.Has("Material Label :"));
+    EXPECT_EQ(labelled.LineOf("Spacing :"),
+              (std::vector<std::string>{"15.00", "6.00", "0.00", "0.00", "Feet"}));
+}
+
+TEST(PrintLLA, UniformSlabLinesAndTheCompressionTestOnTheRibbedStress) {
+    Report ribbed;
+    ribbed.record.LineLoadType = 1, ribbed.record.DirLineLoad = "Long Direction";
+    ribbed.results.LLMoment = 12345 * 12; // 12.345 ft-kips per foot
+    PrintLLA(ribbed.page, Heights, true);
+    EXPECT_EQ(ribbed.LineOf("Applied Moment :"), (std::vector<std::string>{"12.35  Ft-K/Ft"}));
+    EXPECT_EQ(ribbed.LineOf("Direction Of Line Load :"),
+              (std::vector<std::string>{"Parallel to Long Direction"}));
+    for (const std::string& text : ribbed.Texts()) {
+        EXPECT_EQ(text.find("Uniform"), std::string::npos) << text;
+    }
+    EXPECT_TRUE(ribbed.Has("ALL VALUES WITHIN ALLOWABLE LIMITS."));
+
+    Report uniform;
+    uniform.record.LineLoadType = 1, uniform.record.FlatSlab = 1;
+    uniform.results.LLStressCompression = 1400; // over 1350 psi
+    uniform.results.ExcessLLCompression = 3.7;
+    uniform.results.UTExcessLLCompression = -40;
+    PrintLLA(uniform.page, Heights, true);
+    EXPECT_TRUE(uniform.Has("4.00 INCH THICK SLAB - COMPRESSION IN EXTREME FIBER : 3.7%"));
+    EXPECT_TRUE(uniform.Has("UNIFORM THICKNESS SLAB - COMPRESSION IN EXTREME FIBER : -40.0%"));
+    EXPECT_FALSE(uniform.Has("4.00 INCH THICK SLAB - TENSION IN EXTREME FIBER : 0.0%"));
+    EXPECT_TRUE(uniform.Has("Applied Moment (4.00 Inch Thick Slab) :"));
+}
+
+TEST(PrintResults, CompressiblePagesKeepTheirCrossingsAndMisspellings) {
+    Report r;
+    r.record.SoilType = 1, r.record.CLSettleState = 0, r.record.DefSettle = 960;
+    r.results.ShearForceCDShort = 1.11, r.results.ShearForceEDShort = 2.22;
+    r.results.ForceNetCDShort = 120, r.results.ForceNetEDShort = 100, r.results.AreaShort = 1000;
+    PrintRROA_Comp(r.page, Heights, true);
+    ASSERT_EQ(r.surface.sheets().size(), 1u);
+    // The center down shear block prints the edge down force.
+    EXPECT_EQ(r.LineOf("Maximum Shear, Short Direction."),
+              (std::vector<std::string>{"2.22  K/FT"}));
+    // Without edge down both the center down and the center / edge lines print.
+    EXPECT_EQ(r.LineOf("Beta Distance Effective Prestress Force - Center Down (K)").at(0), "120.0");
+    EXPECT_EQ(r.LineOf("Beta Distance Effective Prestress Force - Center/Edge (K)").at(0),
+              "120.0 / 100.0");
+    EXPECT_EQ(r.LineOf("Beta Distance Effective Prestress - Center/Edge (PSI)").at(0), "120 / 100");
+    EXPECT_TRUE(r.Has("Based on a Differential Deflection Coefficient of 960"));
+
+    Report uniform;
+    uniform.record.SoilType = 1, uniform.record.CLSettleState = 1, uniform.record.FlatSlab = 1;
+    uniform.results.UTAreaShort = 1000, uniform.results.UTAreaLong = 1000;
+    PrintUROA_Comp(uniform.page, Heights, true);
+    ASSERT_EQ(uniform.surface.sheets().size(), 2u);
+    EXPECT_TRUE(uniform.Has("Maximum Shear, Short Dirextion"));
+    EXPECT_TRUE(uniform.Has("UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS continued", 1));
+
+    // The center lift moment labels both follow the long direction's Em = 5.0 flag.
+    Report lift;
+    lift.results.Em5ControlLong = 1, lift.results.MomentCLShort = 9.125;
+    PrintRROA(lift.page, Heights, true);
+    EXPECT_EQ(lift.LineOf("Maximum Moment, Short Dir. (controlled by Em=5.0 per PTI 4.3.2)"),
+              (std::vector<std::string>{"9.13  FT-K/FT"}));
+    EXPECT_TRUE(lift.Has("Maximum Moment, Long Dir. (controlled by Em=5.0 per PTI 4.3.2)"));
+}
+
+TEST(PrintRSV, EquivalentDepthOnlyForADirectionOfDifferingDepths) {
+    Report r;
+    r.record.QL2 = 2, r.record.DL2 = 30, r.record.WL2 = 10;
+    r.results.EquivDepthLong = 26.666, r.results.AreaShort = 7320, r.results.TendonJackForce = 28.9;
+    PrintRSV(r.page, Heights, true);
+    EXPECT_EQ(r.LineOf("Equivalent Beam Depth (Inches) :"),
+              (std::vector<std::string>{"", "26.67"}));
+    EXPECT_TRUE(r.Has("depend on depths use the equivalent depths as shown above."));
+    EXPECT_EQ(r.LineOf("Jacking Force :"), (std::vector<std::string>{"28.90  KIPS "}));
+
+    Report even;
+    PrintRSV(even.page, Heights, true);
+    EXPECT_FALSE(even.Has("Equivalent Beam Depth (Inches) :"));
+}
