@@ -7,7 +7,6 @@
 #include "reports/report_pages.h"
 #include "reports/results_pages.h"
 
-
 PageProcedure FindPageProcedure(const std::string& name) {
     static const std::pair<const char*, PageProcedure> procedures[] = {
         {"PrintRDS", PrintRDS},   {"PrintUDS", PrintUDS},
