@@ -1,0 +1,64 @@
+#pragma once
+
+#include "app/qt_user_dialogs.h"
+#include "shell/clock.h"
+#include "shell/lifecycle/options_dialog.h"
+#include "shell/lifecycle/program.h"
+#include "shell/settings_store.h"
+
+#include <QMainWindow>
+#include <map>
+#include <string>
+
+class InputView;
+class OptionsView;
+class QAction;
+class QStackedWidget;
+class QToolButton;
+class ResultsView;
+
+// The main window `mdiKorvath`: its menus, the toolbar with the New drop-down, and the input
+// and results screens in its middle. Every command goes to the lifecycle controller; the
+// window then mirrors the program's state: caption, enabled commands, recent files, the screen
+// shown.
+class MainWindow : public QMainWindow {
+  public:
+    MainWindow(Program& program, SettingsStore& store, std::string programFolder,
+               AssociationTarget association);
+
+    // Places the window as the settings say, on the screen it opens on.
+    void Place();
+    // Redraws everything from the program's state.
+    void Refresh();
+
+    QAction* Action(const std::string& name) const;
+    QToolButton* ToolbarButton(const std::string& key) const;
+    ShellServices& services() { return m_services; }
+    InputView* inputView() const { return m_input; }
+    ResultsView* resultsView() const { return m_results; }
+    OptionsView* optionsView() const { return m_options; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void BuildMenus();
+    void BuildToolbar();
+    QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
+    void RunAnalysis();
+    void PrintReportToPdf();
+    void ShowAbout();
+
+    Program& m_program;
+    QtUserDialogs m_dialogs;
+    SystemClock m_clock;
+    ShellServices m_services;
+    AssociationTarget m_association;
+    std::map<std::string, QAction*> m_actions;
+    std::map<std::string, QToolButton*> m_buttons;
+    QStackedWidget* m_stack;
+    InputView* m_input;
+    ResultsView* m_results;
+    OptionsView* m_options;
+    bool m_ending = false;
+};

@@ -1,0 +1,230 @@
+#include "app/options_view.h"
+
+#include "app/input_layout.h"
+#include "input/input_form.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+const FormModel& InputCaptions() {
+    static const FormModel form = MakeInputForm();
+    return form;
+}
+
+const char* const ReportPageCaptions[] = {
+    "Ribbed Foundation - Design Summary",
+    "Ribbed Foundation - Design Compliance Summary",
+    "Ribbed Foundation - Results of Analysis",
+    "Ribbed Foundation - Selected Variables",
+    "Uniform Thickness Foundation - Design Summary",
+    "Uniform Thickness Foundation - Design Compliance Summary",
+    "Uniform Thickness Foundation - Results of Analysis",
+    "Summary of Input Data",
+    "PTI Exception Summary",
+    "Line Load Analysis",
+};
+
+// The count of an option group: the buttons that exist of it.
+int OptionCount(const FormModel& form, const std::string& group) {
+    int count = 0;
+    while (form.has(ArrayName(group, count))) {
+        ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+int OptionsTabOfControl(const std::string& control) {
+    const FormModel& captions = InputCaptions();
+    if (!captions.has(control)) {
+        return 0;
+    }
+    return PageOfControl(captions, control);
+}
+
+OptionsView::OptionsView(Program& program, ShellServices& services, AssociationTarget association,
+                         QWidget* parent)
+    : QDialog(parent), m_program(program), m_services(services),
+      m_association(std::move(association)) {
+    setObjectName("frmOptions");
+    setWindowTitle("Options");
+    ControlEvents events;
+    events.click = [this](const std::string& name) {
+        FormModel& form = m_program.options.form;
+        if (name.rfind("opt", 0) == 0) {
+            const std::string group = name.substr(0, name.find('('));
+            const int index = std::stoi(name.substr(name.find('(') + 1));
+            SelectOption(form, group, OptionCount(form, group), index);
+        } else {
+            form[name].checked = !form[name].checked;
+        }
+        Changed(name);
+    };
+    events.choose = [this](const std::string& list, int index) {
+        Control& control = m_program.options.form[list];
+        if (index >= 0 && index < static_cast<int>(control.items.size())) {
+            control.selectedIndex = index;
+            control.text = control.items[static_cast<std::size_t>(index)];
+        }
+        Changed(list);
+    };
+    events.change = [this](const std::string& box, const std::string& text) {
+        m_program.options.form[box].text = text;
+        Changed(box);
+    };
+    m_widgets = new FormWidgets(std::move(events));
+    m_widgets->setParent(this);
+
+    m_tabs = new QTabWidget(this);
+    m_tabs->setObjectName("tabOptions");
+    m_tabs->addTab(ProgramTab(), "Program");
+    const FormModel& form = m_program.options.form;
+    for (int page = 1; page <= InputPageCount; ++page) {
+        auto* host = new QWidget(m_tabs);
+        for (const ContainerLayout& layout : InputPageLayouts()) {
+            if (layout.container == PageFrame(page)) {
+                BuildContainer(layout, InputPageLayouts(), form, InputCaptions(), *m_widgets, host);
+            }
+        }
+        m_tabs->addTab(host, QString::fromStdString(PageCaption(page)));
+    }
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int index) {
+        if (!m_refreshing) {
+            m_program.options.form["tabOptions"].selectedIndex = index;
+        }
+    });
+
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* ok = buttons->addButton(QDialogButtonBox::Ok);
+    ok->setObjectName("cmbOK");
+    m_apply = buttons->addButton(QDialogButtonBox::Apply);
+    m_apply->setObjectName("cmbApply");
+    QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    cancel->setObjectName("cmbCancel");
+    connect(ok, &QPushButton::clicked, this, [this] {
+        if (OptionsOK(m_program, m_services, m_association)) {
+            accept();
+        } else {
+            Refresh();
+        }
+    });
+    connect(m_apply, &QPushButton::clicked, this, [this] {
+        OptionsApply(m_program, m_services, m_association);
+        Refresh();
+    });
+    connect(cancel, &QPushButton::clicked, this, [this] {
+        OptionsCancel(m_program.options);
+        reject();
+    });
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs, 1);
+    layout->addWidget(buttons);
+}
+
+QWidget* OptionsView::ProgramTab() {
+    const FormModel& form = m_program.options.form;
+    auto* tab = new QWidget(m_tabs);
+    auto* grid = new QGridLayout(tab);
+    const auto make = [this, &form, tab](const std::string& name, const std::string& caption) {
+        Control control = form[name];
+        control.caption = caption;
+        return m_widgets->Make(control, tab);
+    };
+
+    auto* folder = new QGroupBox("Default Project Folder", tab);
+    auto* folderLine = new QGridLayout(folder);
+    QWidget* path = make("lblDefFilePath", "");
+    auto* browse = new QPushButton("Change ...", folder);
+    browse->setObjectName("dlbDefFilePath");
+    path->setParent(folder);
+    folderLine->addWidget(path, 0, 0);
+    folderLine->addWidget(browse, 0, 1);
+    folderLine->setColumnStretch(0, 1);
+    connect(browse, &QPushButton::clicked, this, [this] {
+        FormModel& form = m_program.options.form;
+        const QString chosen = QFileDialog::getExistingDirectory(
+            this, "Default Project Folder", QString::fromStdString(form["dlbDefFilePath"].text));
+        if (chosen.isEmpty()) {
+            return;
+        }
+        form["dlbDefFilePath"].text = chosen.toStdString();
+        form["lblDefFilePath"].caption = chosen.toStdString();
+        Changed("dlbDefFilePath");
+    });
+    grid->addWidget(folder, 0, 0, 1, 2);
+
+    auto* analysis = new QGroupBox("Analysis", tab);
+    auto* analysisLines = new QVBoxLayout(analysis);
+    for (const auto& [name, caption] :
+         {std::pair<std::string, std::string>{"cbUseBeta",
+                                              "Calculate bending stresses using prestress at Beta"},
+          {"cbUseBeamOnly", "Calculate soil bearing on the beam bottom area only"}}) {
+        QWidget* box = make(name, caption);
+        box->setParent(analysis);
+        analysisLines->addWidget(box);
+    }
+    grid->addWidget(analysis, 1, 0);
+
+    auto* printing = new QGroupBox("Report", tab);
+    auto* printLines = new QVBoxLayout(printing);
+    for (const auto& [name, caption] :
+         {std::pair<std::string, std::string>{"chkPrintOptions(0)",
+                                              "Print values out of limits in red"},
+          {"chkPrintOptions(1)", "Print all compliance values"}}) {
+        QWidget* box = make(name, caption);
+        box->setParent(printing);
+        printLines->addWidget(box);
+    }
+    printLines->addWidget(new QLabel("Default report pages :", printing));
+    for (int i = 0; i < 10; ++i) {
+        QWidget* box = make(ArrayName("chkDR", i), ReportPageCaptions[i]);
+        box->setParent(printing);
+        printLines->addWidget(box);
+    }
+    grid->addWidget(printing, 1, 1, 2, 1);
+
+    auto* actions = new QGroupBox("At Apply or OK", tab);
+    auto* actionLines = new QVBoxLayout(actions);
+    for (const auto& [name, caption] :
+         {std::pair<std::string, std::string>{"cbClear", "Clear the recent files"},
+          {"cbRestore", "Restore all factory defaults"},
+          {"cbAssociate", "Open .kvt project files with Korvath 3.0"}}) {
+        QWidget* box = make(name, caption);
+        box->setParent(actions);
+        actionLines->addWidget(box);
+    }
+    grid->addWidget(actions, 2, 0);
+    grid->setRowStretch(3, 1);
+    return tab;
+}
+
+void OptionsView::Changed(const std::string& control) {
+    ChangeOptionsControl(m_program.options, OptionsTabOfControl(control));
+    Refresh();
+}
+
+void OptionsView::Open(int tab) {
+    ShowOptionsDialog(m_program, m_services, tab);
+    Refresh();
+    exec();
+}
+
+void OptionsView::Refresh() {
+    m_refreshing = true;
+    const FormModel& form = m_program.options.form;
+    m_tabs->setCurrentIndex(std::max(0, form["tabOptions"].selectedIndex));
+    m_widgets->Refresh(form);
+    m_apply->setEnabled(m_program.options.applyEnabled);
+    m_refreshing = false;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "shell/user_dialogs.h"
+
+class QWidget;
+
+// The program's messages, questions and file dialogs as Qt boxes over the main window.
+class QtUserDialogs : public UserDialogs {
+  public:
+    explicit QtUserDialogs(QWidget* parent) : m_parent(parent) {}
+
+    void ShowMessage(const MessageRequest& message) override;
+    Answer AskYesNoCancel(const MessageRequest& question) override;
+    std::optional<std::string> ShowOpenDialog(const FileDialogRequest& request) override;
+    std::optional<std::string> ShowSaveDialog(const FileDialogRequest& request) override;
+
+  private:
+    QWidget* m_parent;
+};
+
+// A filter as the program writes it ("Projects (*.kvt)|*.kvt", pairs split by "|") as Qt's
+// name filters ("Projects (*.kvt)", one a line).
+std::string QtNameFilters(const std::string& filter);

@@ -1,0 +1,77 @@
+// korvath3-screenshots: pictures of the desktop program's windows for the README and for review,
+// taken on any Qt platform (offscreen without a display).
+
+#include "app/input_view.h"
+#include "app/main_window.h"
+#include "app/options_view.h"
+#include "app/results_view.h"
+#include "shell/lifecycle/analysis_reset.h"
+#include "shell/lifecycle/project_lifecycle.h"
+#include "shell/load_settings.h"
+#include "shell/memory_settings_store.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTabWidget>
+#include <QTimer>
+#include <iostream>
+
+namespace {
+
+void Save(QWidget* widget, const QString& path) {
+    widget->grab().save(path);
+    std::cout << path.toStdString() << '\n';
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    if (argc < 3) {
+        std::cerr << "usage: korvath3-screenshots FOLDER PROJECT.kvt\n";
+        return 1;
+    }
+    const QString folder = argv[1];
+    QDir().mkpath(folder);
+
+    MemorySettingsStore store;
+    Program program;
+    MainWindow window(program, store, "/opt/korvath3",
+                      {QDir::tempPath().toStdString(), "korvath3"});
+    LoadSettings(window.services(), program.settings);
+    window.resize(1280, 800);
+    window.show();
+    OpenRecentProject(program, window.services(), argv[2]);
+    window.Refresh();
+    QApplication::processEvents();
+
+    auto* tabs = window.inputView()->findChild<QTabWidget*>("tabInput");
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        window.Refresh();
+        QApplication::processEvents();
+        Save(&window, folder + QString("/input-page-%1.png").arg(page + 1));
+    }
+
+    OptionsView* options = window.optionsView();
+    ShowOptionsDialog(program, window.services(), 0);
+    options->Refresh();
+    options->resize(900, 700);
+    options->show();
+    QApplication::processEvents();
+    auto* optionTabs = options->findChild<QTabWidget*>("tabOptions");
+    for (int tab = 0; tab < optionTabs->count(); ++tab) {
+        optionTabs->setCurrentIndex(tab);
+        QApplication::processEvents();
+        Save(options, folder + QString("/options-tab-%1.png").arg(tab));
+    }
+    options->hide();
+
+    if (AnalysisReset(program, window.services()) == AnalysisResult::ResultsShown) {
+        window.resultsView()->Refresh(program.record.SoilType, program.record.CLSettleState);
+        window.Refresh();
+        QApplication::processEvents();
+        Save(&window, folder + "/results.png");
+    }
+    return 0;
+}
