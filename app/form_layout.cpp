@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <optional>
 #include <sstream>
 
 namespace {
@@ -21,15 +22,38 @@ const ContainerLayout* LayoutOf(const std::vector<ContainerLayout>& layouts,
     return nullptr;
 }
 
-const Control* ControlNamed(const FormModel& form, const FormModel& captions,
-                            const std::string& name) {
+// The control of the form, with the caption of the captions' control when it has none of its
+// own; a caption or frame the form lacks comes from the captions alone.
+std::optional<Control> ControlNamed(const FormModel& form, const FormModel& captions,
+                                    const std::string& name) {
     if (form.has(name)) {
-        return &form[name];
+        Control control = form[name];
+        if (control.caption.empty() && captions.has(name)) {
+            control.caption = captions[name].caption;
+        }
+        return control;
     }
     if (captions.has(name)) {
-        return &captions[name];
+        return captions[name];
     }
-    return nullptr;
+    return std::nullopt;
+}
+
+// Labels and frames only show; every other control is one the user works, which must be the
+// form's own.
+bool IsShownOnly(const std::string& name) {
+    return name.rfind("lbl", 0) == 0 || name.rfind("fra", 0) == 0;
+}
+
+// A row that holds a control the form does not have (the options dialog has no soil list) is
+// left out whole, caption and all.
+bool RowBelongsToForm(const std::vector<std::string>& row, const FormModel& form) {
+    for (const std::string& name : row) {
+        if (name != "." && !IsShownOnly(name) && !form.has(name)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // A heading: bold, and with room above it.
@@ -65,13 +89,16 @@ void BuildContainer(const ContainerLayout& layout, const std::vector<ContainerLa
     }
     int r = 0;
     for (const auto& row : layout.rows) {
+        if (!RowBelongsToForm(row, form)) {
+            continue;
+        }
         for (int c = 0; c < static_cast<int>(row.size()); ++c) {
             const std::string& name = row[c];
             if (name == ".") {
                 continue;
             }
-            const Control* control = ControlNamed(form, captions, name);
-            if (control == nullptr) {
+            const std::optional<Control> control = ControlNamed(form, captions, name);
+            if (!control) {
                 continue;
             }
             QWidget* widget = widgets.Make(*control, host);
@@ -99,9 +126,10 @@ void BuildContainer(const ContainerLayout& layout, const std::vector<ContainerLa
                 box->setStyleSheet("QCheckBox { padding-top: 2px; }");
             }
             const std::string spinName = name.rfind("txt", 0) == 0 ? "ud" + name.substr(3) : "";
-            const Control* spin =
-                spinName.empty() ? nullptr : ControlNamed(form, captions, spinName);
-            if (spin != nullptr) {
+            const std::optional<Control> spin = spinName.empty() || !form.has(spinName)
+                                                    ? std::nullopt
+                                                    : ControlNamed(form, captions, spinName);
+            if (spin) {
                 auto* cell = new QWidget(host);
                 auto* line = new QHBoxLayout(cell);
                 line->setContentsMargins(0, 0, 0, 0);

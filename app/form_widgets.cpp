@@ -1,5 +1,7 @@
 #include "app/form_widgets.h"
 
+#include "input/input_events.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -37,6 +39,22 @@ QString CaptionText(const std::string& caption) {
     return QString::fromStdString(caption);
 }
 
+QString WrappedCaption(const std::string& caption, int width) {
+    QString text = QString::fromStdString(caption);
+    int lineStart = 0;
+    int lastBlank = -1;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text[i] == ' ') {
+            lastBlank = i;
+        }
+        if (i - lineStart >= width && lastBlank > lineStart) {
+            text[lastBlank] = '\n';
+            lineStart = lastBlank + 1;
+        }
+    }
+    return text;
+}
+
 QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
     const std::string& name = control.name;
     QWidget* widget = nullptr;
@@ -44,6 +62,9 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
         auto* edit = new QLineEdit(parent);
         if (control.maxLength > 0) {
             edit->setMaxLength(control.maxLength);
+        }
+        if (!IsTextField(name)) {
+            edit->setMaximumWidth(150); // a number: as wide as its digits need
         }
         connect(edit, &QLineEdit::textEdited, this, [this, name](const QString& text) {
             if (!m_refreshing && m_events.change) {
@@ -73,7 +94,7 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
         });
         widget = button;
     } else if (Starts(name, "cb") || Starts(name, "chk")) {
-        auto* box = new QCheckBox(CaptionText(control.caption), parent);
+        auto* box = new QCheckBox(WrappedCaption(control.caption, CheckBoxLineWidth), parent);
         connect(box, &QCheckBox::clicked, this, [this, name] {
             if (!m_refreshing && m_events.click) {
                 m_events.click(name);
@@ -153,7 +174,7 @@ void FormWidgets::Refresh(const FormModel& form) {
         } else if (auto* box = qobject_cast<QCheckBox*>(widget)) {
             box->setChecked(control.checked);
             if (!control.caption.empty()) {
-                box->setText(CaptionText(control.caption));
+                box->setText(WrappedCaption(control.caption, CheckBoxLineWidth));
             }
         } else if (auto* button = qobject_cast<QRadioButton*>(widget)) {
             button->setChecked(control.checked);

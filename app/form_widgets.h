@@ -53,3 +53,8 @@ class FormWidgets : public QObject {
 
 // A label's caption as Qt shows it: "&&" is one ampersand, as it is for the model.
 QString CaptionText(const std::string& caption);
+
+// A long caption broken at blanks into lines of about `width` characters, for the check boxes,
+// which do not wrap by themselves.
+QString WrappedCaption(const std::string& caption, int width);
+inline constexpr int CheckBoxLineWidth = 100;

@@ -28,24 +28,22 @@ int main(int argc, char** argv) {
     }
 
     IniSettingsStore store(SettingsFilePath());
+    QtUserDialogs dialogs;
+    SystemClock clock;
+    ShellServices services{store, dialogs, clock, ProgramFolder().string()};
     Program program;
     std::int16_t showSplash = 1;
-    {
-        QtUserDialogs dialogs(nullptr);
-        SystemClock clock;
-        ShellServices services{store, dialogs, clock, ProgramFolder().string()};
-        try {
-            showSplash = LoadSettings(services, program.settings);
-        } catch (const RunTimeError& error) {
-            QMessageBox::critical(nullptr,
-                                  "Korvath Critical Error" + QString::number(error.number()),
-                                  "A critical error occurred initializing Korvath");
-            return 1;
-        }
+    try {
+        showSplash = LoadSettings(services, program.settings);
+    } catch (const RunTimeError& error) {
+        QMessageBox::critical(nullptr, "Korvath Critical Error" + QString::number(error.number()),
+                              "A critical error occurred initializing Korvath");
+        return 1;
     }
 
-    MainWindow window(program, store, ProgramFolder().string(),
+    MainWindow window(program, services,
                       {UserDataFolder(), std::filesystem::path(ProgramFolder()) / "korvath3"});
+    dialogs.SetParent(&window);
     const std::string commandLine = arguments.join(' ').toStdString();
     const auto start = [&window, &program, commandLine] {
         window.Place();

@@ -34,11 +34,8 @@ const char* const NewKinds[] = {"New Expansive Soil Project", "New Compressible 
 
 } // namespace
 
-MainWindow::MainWindow(Program& program, SettingsStore& store, std::string programFolder,
-                       AssociationTarget association)
-    : m_program(program),
-      m_dialogs(this), m_services{store, m_dialogs, m_clock, std::move(programFolder)},
-      m_association(std::move(association)) {
+MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTarget association)
+    : m_program(program), m_services(services), m_association(std::move(association)) {
     setObjectName("mdiKorvath");
     m_stack = new QStackedWidget(this);
     auto* welcome = new QLabel("Start a new project or open one from the File menu.", m_stack);
@@ -317,7 +314,7 @@ void MainWindow::PrintReportToPdf() {
         WritePdfReport(path.toStdString(), *job, m_program.record, m_program.results, settings);
     } catch (const FileError& error) {
         QApplication::restoreOverrideCursor();
-        m_dialogs.ShowMessage(
+        m_services.dialogs.ShowMessage(
             {MessageIcon::Critical, "Printing Critical Error", error.description()});
         EndPrinting(m_program.print);
         return;

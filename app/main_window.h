@@ -1,10 +1,8 @@
 #pragma once
 
-#include "app/qt_user_dialogs.h"
-#include "shell/clock.h"
 #include "shell/lifecycle/options_dialog.h"
 #include "shell/lifecycle/program.h"
-#include "shell/settings_store.h"
+#include "shell/shell_services.h"
 
 #include <QMainWindow>
 #include <map>
@@ -23,8 +21,9 @@ class ResultsView;
 // shown.
 class MainWindow : public QMainWindow {
   public:
-    MainWindow(Program& program, SettingsStore& store, std::string programFolder,
-               AssociationTarget association);
+    // The services' message boxes and file dialogs are the program's: Qt boxes over this window
+    // in the program, a script in tests.
+    MainWindow(Program& program, ShellServices& services, AssociationTarget association);
 
     // Places the window as the settings say, on the screen it opens on.
     void Place();
@@ -50,9 +49,7 @@ class MainWindow : public QMainWindow {
     void ShowAbout();
 
     Program& m_program;
-    QtUserDialogs m_dialogs;
-    SystemClock m_clock;
-    ShellServices m_services;
+    ShellServices& m_services;
     AssociationTarget m_association;
     std::map<std::string, QAction*> m_actions;
     std::map<std::string, QToolButton*> m_buttons;

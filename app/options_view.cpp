@@ -130,6 +130,7 @@ OptionsView::OptionsView(Program& program, ShellServices& services, AssociationT
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs, 1);
     layout->addWidget(buttons);
+    setMinimumSize(1160, 700);
 }
 
 QWidget* OptionsView::ProgramTab() {
@@ -174,6 +175,7 @@ QWidget* OptionsView::ProgramTab() {
         box->setParent(analysis);
         analysisLines->addWidget(box);
     }
+    analysisLines->addStretch();
     grid->addWidget(analysis, 1, 0);
 
     auto* printing = new QGroupBox("Report", tab);
@@ -204,6 +206,7 @@ QWidget* OptionsView::ProgramTab() {
         box->setParent(actions);
         actionLines->addWidget(box);
     }
+    actionLines->addStretch();
     grid->addWidget(actions, 2, 0);
     grid->setRowStretch(3, 1);
     return tab;

@@ -7,7 +7,10 @@ class QWidget;
 // The program's messages, questions and file dialogs as Qt boxes over the main window.
 class QtUserDialogs : public UserDialogs {
   public:
-    explicit QtUserDialogs(QWidget* parent) : m_parent(parent) {}
+    explicit QtUserDialogs(QWidget* parent = nullptr) : m_parent(parent) {}
+
+    // The window the boxes stand over.
+    void SetParent(QWidget* parent) { m_parent = parent; }
 
     void ShowMessage(const MessageRequest& message) override;
     Answer AskYesNoCancel(const MessageRequest& question) override;

@@ -4,6 +4,7 @@
 #include "app/input_view.h"
 #include "app/main_window.h"
 #include "app/options_view.h"
+#include "app/qt_user_dialogs.h"
 #include "app/results_view.h"
 #include "shell/lifecycle/analysis_reset.h"
 #include "shell/lifecycle/project_lifecycle.h"
@@ -35,9 +36,11 @@ int main(int argc, char** argv) {
     QDir().mkpath(folder);
 
     MemorySettingsStore store;
+    QtUserDialogs dialogs;
+    SystemClock clock;
+    ShellServices services{store, dialogs, clock, "/opt/korvath3"};
     Program program;
-    MainWindow window(program, store, "/opt/korvath3",
-                      {QDir::tempPath().toStdString(), "korvath3"});
+    MainWindow window(program, services, {QDir::tempPath().toStdString(), "korvath3"});
     LoadSettings(window.services(), program.settings);
     window.resize(1280, 800);
     window.show();
@@ -56,7 +59,7 @@ int main(int argc, char** argv) {
     OptionsView* options = window.optionsView();
     ShowOptionsDialog(program, window.services(), 0);
     options->Refresh();
-    options->resize(900, 700);
+    options->resize(1160, 720);
     options->show();
     QApplication::processEvents();
     auto* optionTabs = options->findChild<QTabWidget*>("tabOptions");

@@ -34,18 +34,6 @@ const std::array<SpinStepEntry, 10> SpinSteps = {{
 
 constexpr double SpinMinimum = 0.0;
 
-// The text boxes that take text rather than numbers.
-bool IsTextField(std::string_view box) {
-    for (const std::string_view name :
-         {"txtProjName", "txtProjDate", "txtProjNum", "txtProjEng", "txtProjGeoRep",
-          "txtProjGeoNum", "txtProjGeoDate", "txtMatLabel", "txtRectLabel", "txtSoilLabel"}) {
-        if (box == name) {
-            return true;
-        }
-    }
-    return false;
-}
-
 bool IsBeamQuantity(std::string_view box) {
     return box == "txtQS1" || box == "txtQS2" || box == "txtQL1" || box == "txtQL2";
 }
@@ -143,6 +131,17 @@ void ApplyCheckRule(InputScreen& screen, InputContext& context, std::string_view
 }
 
 } // namespace
+
+bool IsTextField(std::string_view box) {
+    for (const std::string_view name :
+         {"txtProjName", "txtProjDate", "txtProjNum", "txtProjEng", "txtProjGeoRep",
+          "txtProjGeoNum", "txtProjGeoDate", "txtMatLabel", "txtRectLabel", "txtSoilLabel"}) {
+        if (box == name) {
+            return true;
+        }
+    }
+    return false;
+}
 
 void Click(InputScreen& screen, InputContext& context, std::string_view control) {
     FormModel& form = screen.form;

@@ -42,6 +42,9 @@ inline constexpr int PointKey = 46;
 // always swallowed and moves the focus to the next field of the tab sequence.
 int KeyPress(InputScreen& screen, std::string_view control, int key);
 
+// Whether a text box takes text (a name, a date, a label) rather than a number.
+bool IsTextField(std::string_view box);
+
 // The keyboard filters of the numeric boxes.
 int FilterRealKey(int key);
 int FilterIntegerKey(int key);
