@@ -3,15 +3,16 @@
 #               write their entire reports to build/reports/
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
 #   make bench  time the analysis and the project files
+#   make screenshots  pictures of the desktop program's windows in build/screenshots/
 
 PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
-            nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation
+            nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation xvfb
 EXAMPLES := $(wildcard examples/*.kvt)
 CLI := build/bin/korvath3-cli
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] && echo "" || (command -v sudo >/dev/null && echo "sudo -n"))
 
-.PHONY: all deps configure build run test test-asan bench format clean
+.PHONY: all deps configure build run test test-asan bench screenshots format clean
 
 all: build
 
@@ -58,6 +59,14 @@ test-asan: deps
 
 bench: build
 	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+
+# Pictures of the desktop program's windows for each example, drawn without a display.
+screenshots: build
+	@for project in $(EXAMPLES); do \
+	  name=$$(basename "$$project" .kvt); \
+	  QT_QPA_PLATFORM=offscreen build/bin/korvath3-screenshots "build/screenshots/$$name" "$$project" \
+	    2>/dev/null || exit $$?; \
+	done
 
 format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -1,0 +1,172 @@
+#include "app/input_view.h"
+#include "app/main_window.h"
+#include "app/options_view.h"
+#include "app/results_view.h"
+#include "shell/lifecycle/project_lifecycle.h"
+#include "shell/load_settings.h"
+
+#include "tests/shell/shell_test_support.h"
+#include "tests/test_files.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The program's main window over a store in memory and scripted dialogs, with a copy of an
+// example opened as from the command line.
+struct Desktop {
+    ScratchFolder scratch;
+    ShellFixture shell;
+    Program program;
+    MainWindow window{program, shell.services, {scratch.path() / "share", "korvath3"}};
+
+    explicit Desktop(const std::string& example = {}) {
+        LoadSettings(shell.services, program.settings);
+        window.resize(1280, 800);
+        window.Place();
+        window.Refresh();
+        window.show();
+        if (!example.empty()) {
+            const auto copy = scratch.path() / (example + ".kvt");
+            std::filesystem::copy_file(
+                std::filesystem::path(K3_SOURCE_DIR) / "examples" / (example + ".kvt"), copy);
+            OpenAssociatedProject(program, shell.services, "\"" + copy.string() + "\"");
+            window.Refresh();
+        }
+        QApplication::processEvents();
+    }
+
+    template <typename Widget> Widget* Find(const char* name) {
+        Widget* widget = window.findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+
+    QString Title() const { return window.windowTitle(); }
+};
+
+} // namespace
+
+TEST(DesktopProgram, APathOnTheCommandLineOpensAndAnEditStarsTheCaption) {
+    Desktop d("expansive_ribbed");
+    EXPECT_EQ(d.Title(), "Korvath 3.0 - expansive_ribbed.kvt");
+    auto* name = d.Find<QLineEdit>("txtProjName");
+    ASSERT_TRUE(name);
+    EXPECT_EQ(name->text(), "Meadowbrook Residence, Lot 14");
+    EXPECT_TRUE(d.window.Action("mnuSave")->isEnabled());
+
+    name->setFocus();
+    name->end(false);
+    QTest::keyClicks(name, " B");
+    EXPECT_EQ(QString::fromStdString(d.program.record.ProjName), "Meadowbrook Residence, Lot 14");
+    EXPECT_EQ(QString::fromStdString(d.program.input.form["txtProjName"].text),
+              "Meadowbrook Residence, Lot 14 B");
+    EXPECT_EQ(d.Title(), "Korvath 3.0 - expansive_ribbed.kvt*");
+    EXPECT_FALSE(d.window.Action("mnuOutput")->isEnabled());
+    EXPECT_FALSE(d.window.Action("mnuPrint")->isEnabled());
+    EXPECT_FALSE(d.window.ToolbarButton("Print")->isEnabled());
+
+    // The numeric boxes keep digits and the point only.
+    auto* strength = d.Find<QLineEdit>("txtFpc");
+    strength->setFocus();
+    strength->selectAll();
+    QTest::keyClicks(strength, "35x0a0");
+    EXPECT_EQ(strength->text(), "3500");
+}
+
+TEST(DesktopProgram, ABlankFieldStopsTheAnalysisOnItsField) {
+    Desktop d("compressible_edge_down");
+    auto* width = d.Find<QLineEdit>("txtRectWidth");
+    width->setFocus();
+    width->selectAll();
+    QTest::keyClick(width, Qt::Key_Backspace);
+    EXPECT_EQ(width->text(), "");
+    d.window.Action("mnuAnalysis")->trigger();
+    ASSERT_FALSE(d.shell.dialogs.messages.empty());
+    EXPECT_EQ(d.shell.dialogs.messages.back().title, "Input Error!");
+    EXPECT_EQ(d.program.input.form.focus, "txtRectWidth");
+    EXPECT_EQ(QApplication::focusWidget(), width);
+    EXPECT_FALSE(d.window.Action("mnuOutput")->isEnabled());
+    auto* tabs = d.Find<QTabWidget>("tabInput");
+    EXPECT_EQ(tabs->currentIndex(), 2); // the slab page
+}
+
+TEST(DesktopProgram, AnalysisShowsTheResultsAndSaveThenReopenKeepsTheEdit) {
+    Desktop d("uniform_line_load");
+    d.window.ToolbarButton("Analysis")->click();
+    EXPECT_TRUE(d.program.output.visible);
+    EXPECT_TRUE(d.window.Action("mnuOutput")->isEnabled());
+    EXPECT_TRUE(d.window.ToolbarButton("Print")->isEnabled());
+    auto* stack = d.window.findChild<QStackedWidget*>();
+    EXPECT_EQ(stack->currentWidget(), d.window.resultsView());
+    auto* tabMain = d.Find<QTabWidget>("tabMain");
+    EXPECT_EQ(tabMain->count(), 4);
+    EXPECT_EQ(tabMain->tabText(3), "Line Load Analysis");
+
+    d.window.ToolbarButton("Input")->click();
+    EXPECT_EQ(stack->currentWidget(), d.window.inputView());
+    auto* number = d.Find<QLineEdit>("txtProjNum");
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClicks(number, "2026-999");
+    const std::string path = (d.scratch.path() / "renamed.kvt").string();
+    d.shell.dialogs.answers = {path};
+    d.window.Action("mnuSaveAs")->trigger();
+    EXPECT_EQ(d.Title(), "Korvath 3.0 - renamed.kvt");
+
+    NewProjectReset(d.program, d.shell.services, ProjectKind::Expansive);
+    d.window.Refresh();
+    EXPECT_EQ(d.Find<QLineEdit>("txtProjNum")->text(), "");
+    d.window.Action("mnuRU1")->trigger();
+    EXPECT_EQ(d.Find<QLineEdit>("txtProjNum")->text(), "2026-999");
+    EXPECT_EQ(d.Title(), "Korvath 3.0 - renamed.kvt");
+}
+
+TEST(DesktopProgram, TheNewDropDownRemembersItsKind) {
+    Desktop d;
+    QToolButton* newButton = d.window.ToolbarButton("New");
+    EXPECT_EQ(newButton->toolTip(), "New Expansive Soil Project");
+    newButton->menu()->actions().at(1)->trigger();
+    EXPECT_EQ(newButton->toolTip(), "New Compressible Soil Project");
+    EXPECT_EQ(d.Title(), "Korvath 3.0 - Untitled");
+    EXPECT_EQ(d.Find<QComboBox>("cboSoilType")->currentText(), "Compressible Soils");
+    // The tab text doubles the ampersand, which shows as one.
+    EXPECT_EQ(d.Find<QTabWidget>("tabInput")->tabText(5), "Load, Deflection && Prestress");
+
+    NewProjectReset(d.program, d.shell.services, ProjectKind::Expansive);
+    newButton->click(); // the button repeats the kind its tooltip shows
+    EXPECT_EQ(d.program.record.SoilType, 1);
+}
+
+TEST(DesktopProgram, OptionsApplyWritesTheTabInFront) {
+    Desktop d;
+    OptionsView* options = d.window.optionsView();
+    ShowOptionsDialog(d.program, d.shell.services, 2);
+    options->Refresh();
+    options->show();
+    QApplication::processEvents();
+    auto* apply = options->findChild<QPushButton*>("cmbApply");
+    ASSERT_TRUE(apply);
+    EXPECT_FALSE(apply->isEnabled());
+    auto* strength = options->findChild<QLineEdit*>("txtFpc");
+    ASSERT_TRUE(strength);
+    strength->setFocus();
+    strength->selectAll();
+    QTest::keyClicks(strength, "4500");
+    EXPECT_TRUE(apply->isEnabled());
+    apply->click();
+    EXPECT_EQ(d.shell.section("DefMatProp").at("Fpc"), "4500");
+    EXPECT_EQ(d.program.settings.defaults.Fpc, 4500);
+    EXPECT_FALSE(apply->isEnabled());
+    options->hide();
+}
