@@ -1,7 +1,9 @@
+#include "app/input_layout.h"
 #include "app/input_view.h"
 #include "app/main_window.h"
 #include "app/options_view.h"
 #include "app/results_view.h"
+#include "input/input_form.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 
@@ -169,4 +171,32 @@ TEST(DesktopProgram, OptionsApplyWritesTheTabInFront) {
     EXPECT_EQ(d.program.settings.defaults.Fpc, 4500);
     EXPECT_FALSE(apply->isEnabled());
     options->hide();
+}
+
+TEST(DesktopProgram, EveryControlOfTheInputModelStandsOnItsPageOnce) {
+    const FormModel form = MakeInputForm();
+    const std::vector<std::string> placed = PlacedNames(InputPageLayouts());
+    for (const Control& control : form.controls()) {
+        const std::string& name = control.name;
+        // The tab strip, the page toolbar, the pages and the panel are the view's own frame; a
+        // spin stands beside its box.
+        const bool drawnElsewhere = name == "tabInput" || name == "fraMoreInfo" ||
+                                    name.rfind("tlbInput", 0) == 0 ||
+                                    name.rfind("fraInput", 0) == 0 || name.rfind("ud", 0) == 0;
+        EXPECT_EQ(std::count(placed.begin(), placed.end(), name), drawnElsewhere ? 0 : 1) << name;
+    }
+    for (const std::string& name : placed) {
+        EXPECT_TRUE(form.has(name)) << name << " is placed but the model has no such control";
+    }
+}
+
+TEST(DesktopProgram, EnterWalksTheTabSequenceAndTabSelectsTheField) {
+    Desktop d("expansive_ribbed");
+    auto* name = d.Find<QLineEdit>("txtProjName");
+    name->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(name, Qt::Key_Return);
+    auto* date = d.Find<QLineEdit>("txtProjDate");
+    EXPECT_EQ(QApplication::focusWidget(), date);
+    EXPECT_EQ(date->selectedText(), date->text()); // reached as by the Tab key: all selected
+    EXPECT_EQ(name->text(), "Meadowbrook Residence, Lot 14"); // Enter typed nothing
 }
