@@ -15,11 +15,6 @@
 
 namespace {
 
-const FormModel& InputCaptions() {
-    static const FormModel form = MakeInputForm();
-    return form;
-}
-
 const char* const ReportPageCaptions[] = {
     "Ribbed Foundation - Design Summary",
     "Ribbed Foundation - Design Compliance Summary",
@@ -33,24 +28,7 @@ const char* const ReportPageCaptions[] = {
     "Line Load Analysis",
 };
 
-// The count of an option group: the buttons that exist of it.
-int OptionCount(const FormModel& form, const std::string& group) {
-    int count = 0;
-    while (form.has(ArrayName(group, count))) {
-        ++count;
-    }
-    return count;
-}
-
 } // namespace
-
-int OptionsTabOfControl(const std::string& control) {
-    const FormModel& captions = InputCaptions();
-    if (!captions.has(control)) {
-        return 0;
-    }
-    return PageOfControl(captions, control);
-}
 
 OptionsView::OptionsView(Program& program, ShellServices& services, AssociationTarget association,
                          QWidget* parent)
@@ -60,15 +38,8 @@ OptionsView::OptionsView(Program& program, ShellServices& services, AssociationT
     setWindowTitle("Options");
     ControlEvents events;
     events.click = [this](const std::string& name) {
-        FormModel& form = m_program.options.form;
-        if (name.rfind("opt", 0) == 0) {
-            const std::string group = name.substr(0, name.find('('));
-            const int index = std::stoi(name.substr(name.find('(') + 1));
-            SelectOption(form, group, OptionCount(form, group), index);
-        } else {
-            form[name].checked = !form[name].checked;
-        }
-        Changed(name);
+        ClickOptionsControl(m_program.options, m_program.settings, name);
+        Refresh();
     };
     events.choose = [this](const std::string& list, int index) {
         Control& control = m_program.options.form[list];
@@ -93,7 +64,7 @@ OptionsView::OptionsView(Program& program, ShellServices& services, AssociationT
         auto* host = new QWidget(m_tabs);
         for (const ContainerLayout& layout : InputPageLayouts()) {
             if (layout.container == PageFrame(page)) {
-                BuildContainer(layout, InputPageLayouts(), form, InputCaptions(), *m_widgets, host);
+                BuildContainer(layout, InputPageLayouts(), form, form, *m_widgets, host);
             }
         }
         m_tabs->addTab(host, QString::fromStdString(PageCaption(page)));

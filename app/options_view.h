@@ -32,6 +32,3 @@ class OptionsView : public QDialog {
     QPushButton* m_apply;
     bool m_refreshing = false;
 };
-
-// The tab of the options dialog a control stands on: 0 the program tab, 1 to 7 the record's.
-int OptionsTabOfControl(const std::string& control);

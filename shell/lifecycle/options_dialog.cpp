@@ -1,7 +1,9 @@
 #include "shell/lifecycle/options_dialog.h"
 
 #include "common/run_time_error.h"
+#include "input/enabling_rules.h"
 #include "input/input_checks.h"
+#include "input/input_form.h"
 #include "shell/file_association.h"
 #include "shell/lifecycle/program.h"
 #include "shell/options_form.h"
@@ -37,12 +39,91 @@ void RestoreAndSaveAll(Program& program, ShellServices& services) {
     }
 }
 
+int OptionCount(const FormModel& form, const std::string& group) {
+    int count = 0;
+    while (form.has(ArrayName(group, count))) {
+        ++count;
+    }
+    return count;
+}
+
+int SelectedIn(const FormModel& form, const std::string& group) {
+    return SelectedOption(form, group, OptionCount(form, group));
+}
+
+// The rule of a check box or option group, applied to the form as it stands.
+void ApplyRule(FormModel& form, const std::string& group, const DesignRecord* fill) {
+    if (group == "optTendType") {
+        ApplyTendType(form, SelectedIn(form, group), fill);
+    } else if (group == "optSlabRefType") {
+        ApplySlabRefType(form, SelectedIn(form, group), fill);
+    } else if (group == "cbSlabTenCovType") {
+        ApplySlabTenCovType(form, form[group].checked, fill);
+    } else if (group == "optBeamSpacing") {
+        ApplyBeamSpacing(form, SelectedIn(form, group), fill);
+    } else if (group == "optSubgradetype") {
+        ApplySubgradetype(form, SelectedIn(form, group), fill);
+    } else if (group == "cbUseDeadLoad") {
+        ApplyUseDeadLoad(form, form[group].checked, fill);
+    } else if (group == "cbCLSettleState") {
+        ApplyCLSettleState(form, form[group].checked, fill);
+    } else if (group == "optPreLineLoad") {
+        ApplyPreLineLoad(form, SelectedIn(form, group), fill);
+    } else if (group == "cbLineLoadType") {
+        ApplyLineLoadType(form, form[group].checked, fill);
+    }
+}
+
+// The check boxes and option groups that switch other fields.
+const char* const RuledControls[] = {"optTendType",     "optSlabRefType",  "cbSlabTenCovType",
+                                     "optBeamSpacing",  "optSubgradetype", "cbUseDeadLoad",
+                                     "cbCLSettleState", "optPreLineLoad",  "cbLineLoadType"};
+
+const FormModel& InputCaptions() {
+    static const FormModel form = MakeInputForm();
+    return form;
+}
+
 } // namespace
 
 OptionsDialog LoadOptionsDialog() {
     OptionsDialog dialog;
     dialog.form = MakeOptionsForm();
+    // The record's tabs hold both soils at once: no soil list, every frame shown; no spins.
+    for (Control control : InputCaptions().controls()) {
+        if (dialog.form.has(control.name)) {
+            Control& own = dialog.form[control.name];
+            if (own.caption.empty()) {
+                own.caption = control.caption;
+            }
+            continue;
+        }
+        if (control.name == "cboSoilType" || control.name.rfind("ud", 0) == 0) {
+            continue;
+        }
+        control.visible = true;
+        dialog.form.add(std::move(control));
+    }
     return dialog;
+}
+
+int OptionsTabOfControl(const std::string& control) {
+    return InputCaptions().has(control) ? PageOfControl(InputCaptions(), control) : 0;
+}
+
+void ClickOptionsControl(OptionsDialog& dialog, const ProgramSettings& settings,
+                         const std::string& control) {
+    FormModel& form = dialog.form;
+    std::string group = control;
+    if (control.rfind("opt", 0) == 0) {
+        group = control.substr(0, control.find('('));
+        const int index = std::stoi(control.substr(control.find('(') + 1));
+        SelectOption(form, group, OptionCount(form, group), index);
+    } else {
+        form[control].checked = !form[control].checked;
+    }
+    ApplyRule(form, group, &settings.defaults);
+    ChangeOptionsControl(dialog, OptionsTabOfControl(control));
 }
 
 int OptionsTabShown(const OptionsDialog& dialog) {
@@ -51,6 +132,10 @@ int OptionsTabShown(const OptionsDialog& dialog) {
 
 void ShowOptionsDialog(Program& program, ShellServices& services, int tab) {
     LoadOptionValues(services, program.settings, program.options.form);
+    // The fields the loaded choices switch off are blank already; they are disabled too.
+    for (const char* ruled : RuledControls) {
+        ApplyRule(program.options.form, ruled, nullptr);
+    }
     program.options.form["tabOptions"].selectedIndex = tab;
     program.options.visible = true;
 }

@@ -17,6 +17,8 @@ struct Program;
 inline constexpr int OptionsTabCount = 8;
 
 struct OptionsDialog {
+    // The options form's controls, with the captions, frames and spins of the input screen whose
+    // layout the record's tabs share.
     FormModel form;
     std::array<bool, OptionsTabCount> TabChanged{};
     bool applyEnabled = false; // cmbApply
@@ -37,6 +39,15 @@ void ShowOptionsDialog(Program& program, ShellServices& services, int tab = 0);
 // A change in a control of tab `tab` (its text, a tick): the tab's flag is set and Apply
 // offered. The control's own state is changed by the caller.
 void ChangeOptionsControl(OptionsDialog& dialog, int tab);
+
+// A click on a check box or option button of the dialog: it is ticked or chosen, the fields it
+// switches on and off follow as on the input screen (a field switched on shows the default
+// record's value), and its tab's flag is set.
+void ClickOptionsControl(OptionsDialog& dialog, const ProgramSettings& settings,
+                         const std::string& control);
+
+// The tab of the dialog a control stands on: 0 the program tab, 1 to 7 the record's tabs.
+int OptionsTabOfControl(const std::string& control);
 
 // OK: clears the recent files when asked; restores the factory defaults when asked, ignoring
 // every other edit; otherwise the blank check of every tab (a blank keeps the dialog open on its

@@ -97,3 +97,28 @@ TEST(OptionsDialog, ApplyWritesOnlyTheTabInFront) {
     EXPECT_EQ(f.section("Program Data").at("UseBeta"), "1");
     EXPECT_TRUE(std::filesystem::exists(f.scratch.path() / "share/applications/korvath3.desktop"));
 }
+
+TEST(OptionsDialog, ChoicesSwitchTheirFieldsAsOnTheInputScreen) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    p.settings.defaults.TendType = 2, p.settings.defaults.TendArea = 0.217;
+    ShowOptionsDialog(p, f.services, 2);
+    FormModel& form = p.options.form;
+    // Loaded with a standard tendon, the custom area is blank and off.
+    EXPECT_FALSE(form["txtTendArea"].enabled);
+    EXPECT_EQ(form["txtTendArea"].text, "");
+
+    ClickOptionsControl(p.options, p.settings, "optTendType(3)");
+    EXPECT_TRUE(form["optTendType(3)"].checked && !form["optTendType(2)"].checked);
+    EXPECT_TRUE(form["txtTendArea"].enabled);
+    EXPECT_EQ(form["txtTendArea"].text, ".217"); // the default record's area
+    EXPECT_TRUE(p.options.TabChanged[2]);
+    EXPECT_TRUE(p.options.applyEnabled);
+
+    ClickOptionsControl(p.options, p.settings, "cbLineLoadType");
+    EXPECT_TRUE(form["cbLineLoadType"].checked);
+    EXPECT_TRUE(p.options.TabChanged[7]);
+    // Both soils stand on the soil tab at once.
+    EXPECT_TRUE(form["fraSoilType(0)"].visible && form["fraSoilType(1)"].visible);
+    EXPECT_FALSE(form.has("cboSoilType"));
+}
