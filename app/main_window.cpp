@@ -43,7 +43,7 @@ MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTar
     welcome->setObjectName("welcome");
     m_input = new InputView(
         m_program, m_services, [this] { Refresh(); }, m_stack);
-    m_results = new ResultsView(m_program.output, m_stack);
+    m_results = new ResultsView(m_program.output, m_program.record, m_program.results, m_stack);
     m_stack->addWidget(welcome);
     m_stack->addWidget(m_input);
     m_stack->addWidget(m_results);
@@ -254,6 +254,7 @@ void MainWindow::Refresh() {
     m_actions["mnuRUSeparator"]->setVisible(RecentFilesSeparatorVisible(m_program.settings));
 
     if (m_program.output.visible) {
+        m_results->Refresh();
         m_stack->setCurrentWidget(m_results);
     } else if (m_program.input.visible) {
         m_stack->setCurrentWidget(m_input);
@@ -277,9 +278,6 @@ void MainWindow::RunAnalysis() {
         close();
         QApplication::exit(3);
         return;
-    }
-    if (result == AnalysisResult::ResultsShown) {
-        m_results->Refresh(m_program.record.SoilType, m_program.record.CLSettleState);
     }
     Refresh();
 }

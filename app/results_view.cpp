@@ -4,113 +4,253 @@
 #include "output/compliance_pages.h"
 #include "output/results_tabs.h"
 
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
 namespace {
 
-QString Escaped(const std::string& text) {
-    return QString::fromStdString(text).toHtmlEscaped();
+QString Text(const std::string& text) {
+    return QString::fromStdString(text);
 }
 
-QString Trimmed(const std::string& text) {
-    return QString::fromStdString(text).trimmed();
+bool IsSummaryLine(const std::string& name) {
+    return name.rfind("RibbedSummary", 0) == 0 || name.rfind("UTFSummary", 0) == 0 ||
+           name.rfind("LLSummary", 0) == 0;
 }
 
-QTextBrowser* PageBrowser(const ResultsScreen& screen, const std::string& frame, QWidget* parent) {
-    auto* browser = new QTextBrowser(parent);
-    browser->setObjectName(QString::fromStdString(frame));
-    browser->setHtml(PageHtml(screen, frame));
-    return browser;
-}
+constexpr int CaptionColumn = 0;
+constexpr int FirstValueColumn = 1;
+constexpr int UnitColumn = 3;
 
 } // namespace
 
-QString PageHtml(const ResultsScreen& screen, const std::string& frame) {
-    const FormModel& form = screen.form;
-    QString html = "<table cellspacing=\"0\" cellpadding=\"3\">";
-    for (const ResultRow& row : PageOfFrame(screen.pages, frame).rows) {
-        if (!IsRowShown(form, row)) {
-            continue;
+ResultsView::ResultsView(ResultsScreen& screen, const DesignRecord& record,
+                         const ResultsRecord& results, QWidget* parent)
+    : QWidget(parent), m_screen(screen), m_record(record), m_results(results) {
+    setObjectName("frmOutput");
+    m_main = new QTabWidget(this);
+    m_main->setObjectName("tabMain");
+    m_ribbed = new QTabWidget(this);
+    m_ribbed->setObjectName("tabRibbed");
+    m_ribbed->setProperty("frame", "fraMain(1)");
+    m_uniform = new QTabWidget(this);
+    m_uniform->setObjectName("tabUniform");
+    for (const ResultPage& page : m_screen.pages) {
+        m_pages[page.frame] = MakePage(page);
+        m_pages[page.frame]->hide(); // shown only in a tab
+    }
+    m_ribbed->hide();
+    m_uniform->hide();
+    connect(m_main, &QTabWidget::currentChanged, this, [this](int index) {
+        if (!m_refreshing && index >= 0) {
+            SelectMainTab(m_screen, index + 1);
         }
-        const Control& caption = form[row.caption];
+    });
+    connect(m_ribbed, &QTabWidget::currentChanged, this, [this](int index) {
+        if (!m_refreshing && index >= 0) {
+            SelectRibbedTab(m_screen, m_record, index + 1);
+        }
+    });
+    connect(m_uniform, &QTabWidget::currentChanged, this, [this](int index) {
+        if (!m_refreshing && index >= 0) {
+            SelectUniformTab(m_screen, m_record, index + 1);
+        }
+    });
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_main);
+}
+
+std::vector<QWidget*> ResultsView::Widgets(const std::string& name) const {
+    const auto found = m_widgets.find(name);
+    return found == m_widgets.end() ? std::vector<QWidget*>{} : found->second;
+}
+
+QWidget* ResultsView::MakePage(const ResultPage& page) {
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    auto* host = new QWidget(scroll);
+    host->setObjectName(Text(page.frame));
+    auto* grid = new QGridLayout(host);
+    grid->setHorizontalSpacing(18);
+    grid->setVerticalSpacing(4);
+    const auto named = [this](QWidget* widget, const std::string& name) {
+        widget->setObjectName(Text(name));
+        m_widgets[name].push_back(widget);
+        return widget;
+    };
+    int r = 0;
+    for (const ResultRow& row : page.rows) {
+        std::vector<QWidget*> cells;
         switch (row.kind) {
-        case RowKind::Heading:
-            html += "<tr><td colspan=\"4\"><br/><b>" + Escaped(caption.caption) + "</b></td></tr>";
-            break;
-        case RowKind::Note: {
-            QString style = caption.bold ? "font-weight: bold;" : "";
-            if (caption.red) {
-                style += " color: rgb(255, 0, 0);";
+        case RowKind::Heading: {
+            auto* heading = new QLabel(host);
+            QFont font = heading->font();
+            font.setBold(true);
+            heading->setFont(font);
+            if (r > 0) {
+                heading->setContentsMargins(0, 10, 0, 0);
             }
-            html += "<tr><td colspan=\"4\" style=\"" + style + "\">" + Escaped(caption.caption) +
-                    "</td></tr>";
+            grid->addWidget(named(heading, row.caption), r, 0, 1, 4);
+            cells.push_back(heading);
             break;
         }
-        case RowKind::Check:
-            html += QString("<tr><td colspan=\"4\">[%1] ").arg(caption.checked ? "x" : " ") +
-                    Escaped(caption.caption) + "</td></tr>";
+        case RowKind::Note: {
+            auto* note = new QLabel(host);
+            note->setWordWrap(true);
+            if (IsSummaryLine(row.caption)) {
+                note->setCursor(Qt::PointingHandCursor);
+                note->installEventFilter(this);
+            }
+            grid->addWidget(named(note, row.caption), r, 0, 1, UnitColumn + 2);
+            cells.push_back(note);
             break;
-        case RowKind::List:
-            html += "<tr><td colspan=\"4\">" + StyledTextHtml(StyledList(screen, row.caption)) +
-                    "</td></tr>";
+        }
+        case RowKind::Check: {
+            auto* box = new QCheckBox(host);
+            const std::string name = row.caption;
+            connect(box, &QCheckBox::clicked, this, [this, name](bool checked) {
+                if (!m_refreshing) {
+                    ClickDisplayAll(m_screen, name, checked, m_record, m_results);
+                    Refresh();
+                }
+            });
+            grid->addWidget(named(box, row.caption), r, 0, 1, 4);
+            cells.push_back(box);
             break;
+        }
+        case RowKind::List: {
+            auto* list = new QTextBrowser(host);
+            list->setMinimumHeight(360);
+            // The list runs across the whole page, the stretching column included.
+            grid->addWidget(named(list, row.caption), r, 0, 1, UnitColumn + 2);
+            cells.push_back(list);
+            break;
+        }
         case RowKind::Columns:
         case RowKind::Value: {
-            html += "<tr><td>" + Escaped(caption.caption) + "</td>";
+            auto* caption = new QLabel(host);
+            grid->addWidget(named(caption, row.caption), r, CaptionColumn);
+            cells.push_back(caption);
+            int column = FirstValueColumn;
             for (const std::string& value : row.values) {
-                const Control& label = form[value];
-                const QString align = row.text ? "left" : "right";
-                html += "<td align=\"" + align + "\">" +
-                        (label.visible ? Escaped(label.caption) : QString()) + "</td>";
+                auto* label = new QLabel(host);
+                label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+                const bool text = row.text || row.kind == RowKind::Columns;
+                label->setAlignment((text ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+                if (row.kind == RowKind::Columns) {
+                    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                }
+                // A text value (a name, a dimension line) runs across the value columns.
+                const int span = row.text ? 2 : 1;
+                grid->addWidget(named(label, value), r, column, 1, span);
+                cells.push_back(label);
+                ++column;
             }
-            html += "<td>" + (row.unit.empty() ? QString() : Escaped(form[row.unit].caption)) +
-                    "</td></tr>";
+            if (!row.unit.empty()) {
+                auto* unit = new QLabel(host);
+                grid->addWidget(named(unit, row.unit), r, UnitColumn);
+                cells.push_back(unit);
+            }
             break;
         }
         }
+        m_rows.emplace_back(&row, cells);
+        ++r;
     }
-    return html + "</table>";
+    grid->setColumnMinimumWidth(FirstValueColumn, 130);
+    grid->setColumnMinimumWidth(FirstValueColumn + 1, 130);
+    grid->setRowStretch(r, 1);
+    grid->setColumnStretch(UnitColumn + 1, 1);
+    scroll->setWidget(host);
+    return scroll;
 }
 
-ResultsView::ResultsView(const ResultsScreen& screen, QWidget* parent)
-    : QWidget(parent), m_screen(screen) {
-    setObjectName("frmOutput");
-    m_tabs = new QTabWidget(this);
-    m_tabs->setObjectName("tabMain");
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_tabs);
+void ResultsView::FillTabs(QTabWidget* tabs, const TabStrip& strip,
+                           const std::function<int(int)>& frameOf, const std::string& array) {
+    while (tabs->count() > 0) {
+        tabs->removeTab(0);
+    }
+    for (int tab = 1; tab <= strip.count(); ++tab) {
+        QWidget* page = m_pages.at(ArrayName(array, frameOf(tab)));
+        tabs->addTab(page, Text(strip.captions[static_cast<std::size_t>(tab - 1)]));
+    }
+    tabs->setCurrentIndex(strip.selected - 1);
 }
 
-void ResultsView::Refresh(std::int16_t soilType, std::int16_t clSettleState) {
-    while (m_tabs->count() > 0) {
-        QWidget* page = m_tabs->widget(0);
-        m_tabs->removeTab(0);
-        page->deleteLater();
-    }
-    for (int tab = 1; tab <= m_screen.tabMain.count(); ++tab) {
-        const std::string& caption = m_screen.tabMain.captions[static_cast<std::size_t>(tab - 1)];
-        const int frame = MainFrameOfTab(m_screen.tabMain, tab);
-        if (frame == 1 || frame == 2) {
-            const bool ribbed = frame == 1;
-            const TabStrip& strip = ribbed ? m_screen.tabRibbed : m_screen.tabUniform;
-            auto* inner = new QTabWidget(m_tabs);
-            inner->setObjectName(ribbed ? "tabRibbed" : "tabUniform");
-            for (int page = 1; page <= strip.count(); ++page) {
-                const std::string pageFrame =
-                    ribbed
-                        ? ArrayName("fraExpOutput", RibbedFrameOfTab(soilType, clSettleState, page))
-                        : ArrayName("fraUTFOutput",
-                                    UniformFrameOfTab(soilType, clSettleState, page));
-                inner->addTab(PageBrowser(m_screen, pageFrame, inner),
-                              Trimmed(strip.captions[static_cast<std::size_t>(page - 1)]));
+void ResultsView::Refresh() {
+    m_refreshing = true;
+    const FormModel& form = m_screen.form;
+    for (const auto& [name, widgets] : m_widgets) {
+        if (!form.has(name)) {
+            continue;
+        }
+        const Control& control = form[name];
+        for (QWidget* widget : widgets) {
+            if (auto* label = qobject_cast<QLabel*>(widget)) {
+                label->setText(Text(control.caption));
+                if (IsSummaryLine(name)) {
+                    QFont font = label->font();
+                    font.setBold(control.bold);
+                    label->setFont(font);
+                    label->setStyleSheet(control.red ? "color: rgb(255, 0, 0);" : "");
+                }
+            } else if (auto* box = qobject_cast<QCheckBox*>(widget)) {
+                box->setText(Text(control.caption));
+                box->setChecked(control.checked);
+            } else if (auto* list = qobject_cast<QTextBrowser*>(widget)) {
+                list->setHtml(StyledTextHtml(StyledList(m_screen, name)));
             }
-            m_tabs->addTab(inner, Trimmed(caption));
-        } else {
-            m_tabs->addTab(PageBrowser(m_screen, ArrayName("fraMain", frame), m_tabs),
-                           Trimmed(caption));
         }
     }
-    m_tabs->setCurrentIndex(m_screen.tabMain.selected - 1);
+    for (const auto& [row, cells] : m_rows) {
+        const bool shown = IsRowShown(form, *row);
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            bool visible = shown;
+            // A value the model hides leaves its cell empty on a row that shows.
+            if (shown && i >= 1 && i <= row->values.size()) {
+                visible = form[row->values[i - 1]].visible;
+            }
+            cells[i]->setVisible(visible);
+        }
+    }
+
+    const std::int16_t soil = m_record.SoilType;
+    const std::int16_t settle = m_record.CLSettleState;
+    FillTabs(
+        m_ribbed, m_screen.tabRibbed,
+        [soil, settle](int tab) { return RibbedFrameOfTab(soil, settle, tab); }, "fraExpOutput");
+    FillTabs(
+        m_uniform, m_screen.tabUniform,
+        [soil, settle](int tab) { return UniformFrameOfTab(soil, settle, tab); }, "fraUTFOutput");
+    while (m_main->count() > 0) {
+        m_main->removeTab(0);
+    }
+    for (int tab = 1; tab <= m_screen.tabMain.count(); ++tab) {
+        const int frame = MainFrameOfTab(m_screen.tabMain, tab);
+        QWidget* page = frame == 1   ? static_cast<QWidget*>(m_ribbed)
+                        : frame == 2 ? static_cast<QWidget*>(m_uniform)
+                                     : m_pages.at(ArrayName("fraMain", frame));
+        m_main->addTab(page, Text(m_screen.tabMain.captions[static_cast<std::size_t>(tab - 1)]));
+    }
+    m_main->setCurrentIndex(m_screen.tabMain.selected - 1);
+    m_refreshing = false;
+}
+
+bool ResultsView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        ClickSummaryLine(m_screen, m_record, watched->objectName().toStdString());
+        Refresh();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }

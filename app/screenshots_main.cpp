@@ -71,10 +71,22 @@ int main(int argc, char** argv) {
     options->hide();
 
     if (AnalysisReset(program, window.services()) == AnalysisResult::ResultsShown) {
-        window.resultsView()->Refresh(program.record.SoilType, program.record.CLSettleState);
         window.Refresh();
         QApplication::processEvents();
         Save(&window, folder + "/results.png");
+        auto* main = window.resultsView()->findChild<QTabWidget*>("tabMain");
+        for (int tab = 0; tab < main->count(); ++tab) {
+            main->setCurrentIndex(tab);
+            auto* inner = qobject_cast<QTabWidget*>(main->currentWidget());
+            const int pages = inner != nullptr ? inner->count() : 1;
+            for (int page = 0; page < pages; ++page) {
+                if (inner != nullptr) {
+                    inner->setCurrentIndex(page);
+                }
+                QApplication::processEvents();
+                Save(&window, folder + QString("/results-%1-%2.png").arg(tab + 1).arg(page + 1));
+            }
+        }
     }
     return 0;
 }
