@@ -6,7 +6,8 @@
 #   make screenshots  pictures of the desktop program's windows in build/screenshots/
 
 PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
-            nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation xvfb
+            nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation xvfb \
+            poppler-utils
 EXAMPLES := $(wildcard examples/*.kvt)
 CLI := build/bin/korvath3-cli
 
@@ -37,7 +38,12 @@ configure: deps
 build: configure
 	cmake --build --preset dev
 
+# With a display the desktop program opens on an example; without one the examples are analysed
+# and checked on the command line and their reports written as PDF.
 run: build
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	  build/bin/korvath3 examples/expansive_ribbed.kvt; exit $$?; \
+	fi
 	@mkdir -p build/reports
 	@for project in $(EXAMPLES); do \
 	  $(CLI) analyze "$$project" || exit $$?; echo; \

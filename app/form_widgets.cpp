@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStringList>
 #include <QToolButton>
 #include <algorithm>
 #include <vector>
@@ -73,7 +74,7 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
         });
         edit->installEventFilter(this);
         widget = edit;
-    } else if (Starts(name, "cbo")) {
+    } else if (Starts(name, "cbo") || Starts(name, "cbb")) {
         auto* list = new QComboBox(parent);
         for (const std::string& item : control.items) {
             list->addItem(QString::fromStdString(item));
@@ -93,7 +94,7 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
             }
         });
         widget = button;
-    } else if (Starts(name, "cb") || Starts(name, "chk")) {
+    } else if (Starts(name, "cb") || Starts(name, "chk") || Starts(name, "Check")) {
         auto* box = new QCheckBox(WrappedCaption(control.caption, CheckBoxLineWidth), parent);
         connect(box, &QCheckBox::clicked, this, [this, name] {
             if (!m_refreshing && m_events.click) {
@@ -170,7 +171,22 @@ void FormWidgets::Refresh(const FormModel& form) {
                 edit->setText(text);
             }
         } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
-            list->setCurrentIndex(control.selectedIndex);
+            QStringList items;
+            for (const std::string& item : control.items) {
+                items.push_back(QString::fromStdString(item));
+            }
+            QStringList shown;
+            for (int i = 0; i < list->count(); ++i) {
+                shown.push_back(list->itemText(i));
+            }
+            if (shown != items) {
+                list->clear();
+                list->addItems(items);
+            }
+            // A list whose choice is only its text (the report font) shows the item of that text.
+            list->setCurrentIndex(control.selectedIndex >= 0
+                                      ? control.selectedIndex
+                                      : list->findText(QString::fromStdString(control.text)));
         } else if (auto* box = qobject_cast<QCheckBox*>(widget)) {
             box->setChecked(control.checked);
             if (!control.caption.empty()) {

@@ -2,18 +2,14 @@
 
 #include "app/input_view.h"
 #include "app/options_view.h"
+#include "app/print_view.h"
 #include "app/results_view.h"
-#include "reports/qt/pdf_report.h"
-#include "reports/report_run.h"
 #include "shell/lifecycle/analysis_reset.h"
-#include "shell/lifecycle/print_commands.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
-#include "storage/file_error.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -49,6 +45,8 @@ MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTar
     m_stack->addWidget(m_results);
     setCentralWidget(m_stack);
     m_options = new OptionsView(m_program, m_services, m_association, this);
+    m_print = new PrintView(
+        m_program, m_services, [this] { m_options->Open(0); }, this);
     BuildMenus();
     BuildToolbar();
     setMinimumSize(1000, 640);
@@ -113,7 +111,7 @@ void MainWindow::BuildMenus() {
     });
     QAction* print = AddAction(file, "mnuPrint", "&Print ...");
     print->setShortcut(QKeySequence::Print);
-    connect(print, &QAction::triggered, this, [this] { PrintReportToPdf(); });
+    connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(); });
     QAction* recentSeparator = file->addSeparator();
     recentSeparator->setObjectName("mnuRUSeparator");
     m_actions["mnuRUSeparator"] = recentSeparator;
@@ -203,7 +201,7 @@ void MainWindow::BuildToolbar() {
     });
     toolbar->addSeparator();
     connect(button("Print", 6, QStyle::SP_FileDialogDetailedView), &QToolButton::clicked, this,
-            [this] { PrintReportToPdf(); });
+            [this] { OpenPrintDialog(); });
     toolbar->addSeparator();
     connect(button("Input", 8, QStyle::SP_FileDialogContentsView), &QToolButton::clicked, this,
             [this] {
@@ -282,43 +280,12 @@ void MainWindow::RunAnalysis() {
     Refresh();
 }
 
-void MainWindow::PrintReportToPdf() {
+void MainWindow::OpenPrintDialog() {
     if (!m_program.project.printEnabled) {
         return;
     }
-    PrintCommand(m_program, {"Arial"}, "PDF");
-    ChoosePrintRange(m_program.print, m_program.record, PrintRange::Default);
-    const std::optional<PrintJob> job = PrintButton(m_program, m_services);
-    if (!job) {
-        return;
-    }
-    QString suggested = QString::fromStdString(m_program.project.ProjFileTitle);
-    suggested.replace(".kvt", ".pdf");
-    const QString path = QFileDialog::getSaveFileName(
-        this, "Save Report as PDF", suggested.isEmpty() ? "report.pdf" : suggested,
-        "PDF files (*.pdf)");
-    if (path.isEmpty()) {
-        EndPrinting(m_program.print);
-        return;
-    }
-    ReportSettings settings;
-    settings.projectPath = m_program.project.ProjFilePath;
-    settings.colour = m_program.settings.options.PrintColor == 1;
-    settings.showAll = m_program.settings.options.PrintAll == 1;
-    settings.RibbedOutCount = m_program.output.RibbedOutCount;
-    settings.engine = m_program.settings.options.engineSettings();
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        WritePdfReport(path.toStdString(), *job, m_program.record, m_program.results, settings);
-    } catch (const FileError& error) {
-        QApplication::restoreOverrideCursor();
-        m_services.dialogs.ShowMessage(
-            {MessageIcon::Critical, "Printing Critical Error", error.description()});
-        EndPrinting(m_program.print);
-        return;
-    }
-    QApplication::restoreOverrideCursor();
-    EndPrinting(m_program.print);
+    m_print->Open();
+    Refresh();
 }
 
 void MainWindow::ShowAbout() {

@@ -10,6 +10,7 @@
 
 class InputView;
 class OptionsView;
+class PrintView;
 class QAction;
 class QStackedWidget;
 class QToolButton;
@@ -36,6 +37,7 @@ class MainWindow : public QMainWindow {
     InputView* inputView() const { return m_input; }
     ResultsView* resultsView() const { return m_results; }
     OptionsView* optionsView() const { return m_options; }
+    PrintView* printView() const { return m_print; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -45,7 +47,7 @@ class MainWindow : public QMainWindow {
     void BuildToolbar();
     QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
     void RunAnalysis();
-    void PrintReportToPdf();
+    void OpenPrintDialog();
     void ShowAbout();
 
     Program& m_program;
@@ -57,5 +59,6 @@ class MainWindow : public QMainWindow {
     InputView* m_input;
     ResultsView* m_results;
     OptionsView* m_options;
+    PrintView* m_print;
     bool m_ending = false;
 };

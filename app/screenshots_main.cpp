@@ -4,9 +4,11 @@
 #include "app/input_view.h"
 #include "app/main_window.h"
 #include "app/options_view.h"
+#include "app/print_view.h"
 #include "app/qt_user_dialogs.h"
 #include "app/results_view.h"
 #include "shell/lifecycle/analysis_reset.h"
+#include "shell/lifecycle/print_commands.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 #include "shell/memory_settings_store.h"
@@ -87,6 +89,15 @@ int main(int argc, char** argv) {
                 Save(&window, folder + QString("/results-%1-%2.png").arg(tab + 1).arg(page + 1));
             }
         }
+    }
+    if (program.project.printEnabled) {
+        PrintView* print = window.printView();
+        PrintCommand(program, {"Arial", "Courier New", "Times New Roman"}, "PDF file");
+        print->Refresh();
+        print->show();
+        QApplication::processEvents();
+        Save(print, folder + "/print-dialog.png");
+        print->hide();
     }
     return 0;
 }

@@ -30,6 +30,7 @@ PainterSurface::~PainterSurface() {
 }
 
 void PainterSurface::BeginDocument() {
+    m_dotsPerTwip = m_device.logicalDpiX() / 1440.0;
     m_painter = std::make_unique<QPainter>(&m_device);
     m_page = 1;
     ApplyFont();
@@ -81,11 +82,11 @@ void PainterSurface::SetLineWidth(int width) {
 }
 
 double PainterSurface::TextWidth(std::string_view text) {
-    return QFontMetricsF(m_font, &m_device).horizontalAdvance(FromUtf8(text));
+    return QFontMetricsF(m_font, &m_device).horizontalAdvance(FromUtf8(text)) / m_dotsPerTwip;
 }
 
 double PainterSurface::TextHeight(std::string_view) {
-    return QFontMetricsF(m_font, &m_device).height();
+    return QFontMetricsF(m_font, &m_device).height() / m_dotsPerTwip;
 }
 
 void PainterSurface::DrawText(double x, double y, std::string_view text) {
@@ -94,7 +95,8 @@ void PainterSurface::DrawText(double x, double y, std::string_view text) {
     }
     m_painter->setPen(m_colour);
     const QFontMetricsF metrics(m_font, &m_device);
-    m_painter->drawText(QPointF(x, y + metrics.ascent()), FromUtf8(text));
+    m_painter->drawText(QPointF(x * m_dotsPerTwip, y * m_dotsPerTwip + metrics.ascent()),
+                        FromUtf8(text));
 }
 
 void PainterSurface::DrawLine(double x1, double y1, double x2, double y2) {
@@ -102,9 +104,10 @@ void PainterSurface::DrawLine(double x1, double y1, double x2, double y2) {
         return;
     }
     QPen pen(m_colour);
-    pen.setWidthF(m_lineWidth * TwipsPerPrinterDot);
+    pen.setWidthF(m_lineWidth * TwipsPerPrinterDot * m_dotsPerTwip);
     m_painter->setPen(pen);
-    m_painter->drawLine(QPointF(x1, y1), QPointF(x2, y2));
+    m_painter->drawLine(QPointF(x1 * m_dotsPerTwip, y1 * m_dotsPerTwip),
+                        QPointF(x2 * m_dotsPerTwip, y2 * m_dotsPerTwip));
 }
 
 std::vector<std::string> PainterSurface::FontNames() {

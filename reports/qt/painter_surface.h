@@ -9,9 +9,9 @@
 
 class QPagedPaintDevice;
 
-// The drawing surface on a Qt paint device of pages (a printer or a PDF writer) at 1440 dots to
-// the inch, so that a twip is a dot. "Arial" is found through fontconfig, which gives its
-// metric twin Liberation Sans.
+// The drawing surface on a Qt paint device of pages (a printer or a PDF writer). Twips are turned
+// into the device's dots by its resolution: a PDF writer at 1440 dots to the inch takes them as
+// they are. "Arial" is found through fontconfig, which gives its metric twin Liberation Sans.
 class PainterSurface : public DrawingSurface {
   public:
     PainterSurface(QPagedPaintDevice& device, std::string printerName);
@@ -44,4 +44,5 @@ class PainterSurface : public DrawingSurface {
     QColor m_colour = Qt::black;
     int m_lineWidth = 1;
     int m_page = 0;
+    double m_dotsPerTwip = 1;
 };
