@@ -4,16 +4,19 @@
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
 #   make bench  time the analysis and the project files
 #   make screenshots  pictures of the desktop program's windows in build/screenshots/
+#   make fuzz   the libFuzzer targets in build-fuzz/ (make test runs each briefly)
 
 PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
             nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation xvfb \
-            poppler-utils
+            poppler-utils clang libclang-rt-14-dev
 EXAMPLES := $(wildcard examples/*.kvt)
 CLI := build/bin/korvath3-cli
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] && echo "" || (command -v sudo >/dev/null && echo "sudo -n"))
 
-.PHONY: all deps configure build run test test-asan bench screenshots format clean
+.PHONY: all deps configure build run test test-asan fuzz fuzz-smoke bench screenshots format clean
+FUZZERS := read_design_file_fuzzer:design_file page_file_fuzzer:page_file \
+           design_run_fuzzer:design_run
 
 all: build
 
@@ -54,7 +57,7 @@ run: build
 	    || exit $$?; \
 	done
 
-test: build test-asan
+test: build test-asan fuzz-smoke
 	ctest --preset dev
 
 # The core and its tests once more under AddressSanitizer and UndefinedBehaviorSanitizer.
@@ -62,6 +65,26 @@ test-asan: deps
 	cmake --preset asan
 	cmake --build --preset asan
 	ctest --preset asan
+
+# The libFuzzer targets, built with clang and instrumented libraries into build-fuzz/.
+fuzz: deps
+	cmake -S . -B build-fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ \
+	  -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined" \
+	  -DK3_BUILD_APP=OFF -DK3_BUILD_CLI=OFF -DK3_BUILD_BENCH=OFF -DBUILD_TESTING=OFF
+	cmake --build build-fuzz --target $(foreach f,$(FUZZERS),$(firstword $(subst :, ,$(f))))
+
+# Each target for a short fixed number of runs from the seed corpus, which it leaves untouched.
+fuzz-smoke: fuzz
+	@for entry in $(FUZZERS); do \
+	  target=$${entry%%:*}; corpus=$${entry##*:}; \
+	  rm -rf "build-fuzz/corpus/$$corpus"; mkdir -p "build-fuzz/corpus/$$corpus"; \
+	  cp fuzz/corpus/$$corpus/* "build-fuzz/corpus/$$corpus/"; \
+	  build-fuzz/bin/$$target -runs=3000 -max_len=8192 -rss_limit_mb=1024 \
+	    "build-fuzz/corpus/$$corpus" 2> "build-fuzz/$$target.log" \
+	    || { tail -40 "build-fuzz/$$target.log"; exit 1; }; \
+	  echo "$$target: $$(grep -o 'Done [0-9]* runs' "build-fuzz/$$target.log")"; \
+	done
 
 bench: build
 	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
@@ -78,4 +101,4 @@ format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	rm -rf build build-asan
+	rm -rf build build-asan build-fuzz

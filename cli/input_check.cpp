@@ -45,8 +45,12 @@ std::optional<LoadedProject> LoadCheckedProject(const std::filesystem::path& pro
                                                 const DesignRecord& defaults, bool check, bool json,
                                                 std::ostream& out, std::ostream& err,
                                                 int& failureStatus) {
-    std::optional<LoadedProject> loaded = LoadProject(project, defaults, err);
+    CliError failure;
+    std::optional<LoadedProject> loaded = LoadProject(project, defaults, err, &failure);
     if (!loaded) {
+        if (json) {
+            PrintJsonError(failure, out);
+        }
         failureStatus = ExitFileError;
         return std::nullopt;
     }

@@ -3,6 +3,7 @@
 #include "cli/analyze_command.h"
 #include "cli/check_command.h"
 #include "cli/exit_status.h"
+#include "cli/json_error.h"
 #include "cli/new_command.h"
 #include "cli/report_command.h"
 #include "cli/results_command.h"
@@ -61,7 +62,7 @@ void AddRunOptions(CLI::App& command, std::filesystem::path& project, bool& json
 // Reads the settings store as the desktop program does at its start, so that both work from
 // the same options and default record. A value missing from the store is written with its
 // default.
-std::optional<ProgramSettings> LoadProgramSettings() {
+std::optional<ProgramSettings> LoadProgramSettings(CliError& failure) {
     IniSettingsStore store(SettingsFilePath());
     StreamDialogs dialogs(std::cerr);
     SystemClock clock;
@@ -73,6 +74,7 @@ std::optional<ProgramSettings> LoadProgramSettings() {
         std::cerr << "korvath3-cli: Korvath Critical Error" << error.number()
                   << ": A critical error occurred initializing Korvath (" << error.description()
                   << " in " << SettingsFilePath().string() << ")\n";
+        failure = {error.number(), error.description(), SettingsFilePath().string()};
         return std::nullopt;
     }
     return settings;
@@ -184,15 +186,27 @@ int main(int argc, char** argv) {
         ->check(CLI::IsMember({"expansive", "compressible", "lineload"}));
     newCommand->add_option("-o,--output", newOutput, "New project file")->required();
 
+    // Whether the command asked for JSON, so that even a failure to understand it is an object.
+    bool wantsJson = false;
+    for (int i = 1; i < argc; ++i) {
+        wantsJson = wantsJson || std::string(argv[i]) == "--json";
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         const int status = app.exit(error);
+        if (status != 0 && wantsJson) {
+            PrintJsonError({ExitBadUsage, error.what(), ""}, std::cout);
+        }
         return status == 0 ? ExitAnalysed : ExitBadUsage;
     }
 
-    const std::optional<ProgramSettings> settings = LoadProgramSettings();
+    CliError settingsFailure;
+    const std::optional<ProgramSettings> settings = LoadProgramSettings(settingsFailure);
     if (!settings) {
+        if (wantsJson) {
+            PrintJsonError(settingsFailure, std::cout);
+        }
         return ExitFileError;
     }
     if (*analyzeCommand) {

@@ -7,7 +7,8 @@
 #include <ostream>
 
 std::optional<LoadedProject> LoadProject(const std::filesystem::path& path,
-                                         const DesignRecord& defaults, std::ostream& err) {
+                                         const DesignRecord& defaults, std::ostream& err,
+                                         CliError* failure) {
     LoadedProject loaded{defaults, 0};
     const auto tell = [&](const OldVersionNotice& notice) {
         std::string text = notice.text;
@@ -19,6 +20,9 @@ std::optional<LoadedProject> LoadProject(const std::filesystem::path& path,
     } catch (const FileError& error) {
         err << "korvath3-cli: Error opening file - " << error.number() << ": "
             << error.description() << " (" << path.string() << ")\n";
+        if (failure != nullptr) {
+            *failure = {error.number(), error.description(), path.string()};
+        }
         return std::nullopt;
     }
     return loaded;

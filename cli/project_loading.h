@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/json_error.h"
 #include "engine/design_record.h"
 
 #include <filesystem>
@@ -13,6 +14,8 @@ struct LoadedProject {
 
 // Reads a whole project over `defaults`, the record a new project starts from, so that fields an
 // older file lacks take their defaults. Notices of an older version and a file error, with its
-// number and description, are written to `err`; an error gives nothing.
+// number and description, are written to `err`; an error gives nothing, and is kept in
+// `failure` when one is given.
 std::optional<LoadedProject> LoadProject(const std::filesystem::path& path,
-                                         const DesignRecord& defaults, std::ostream& err);
+                                         const DesignRecord& defaults, std::ostream& err,
+                                         CliError* failure = nullptr);

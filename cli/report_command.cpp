@@ -2,6 +2,7 @@
 
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
+#include "cli/json_error.h"
 #include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/stderr_dialogs.h"
@@ -17,6 +18,17 @@
 #include <ostream>
 
 namespace {
+
+// The messages on the error stream, the last one kept for the JSON of a failure.
+class RememberingDialogs : public StreamDialogs {
+  public:
+    using StreamDialogs::StreamDialogs;
+    void ShowMessage(const MessageRequest& message) override {
+        StreamDialogs::ShowMessage(message);
+        last = message.text;
+    }
+    std::string last;
+};
 
 nlohmann::ordered_json ColourJson(Colour colour) {
     return {colour.red, colour.green, colour.blue};
@@ -56,7 +68,7 @@ nlohmann::ordered_json SheetsJson(const RecordingSurface& surface) {
 int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostream& err) {
     int failureStatus = ExitAnalysed;
     std::optional<LoadedProject> loaded = LoadCheckedProject(
-        options.project, options.defaults, options.check, false, out, err, failureStatus);
+        options.project, options.defaults, options.check, options.json, out, err, failureStatus);
     if (!loaded) {
         return failureStatus;
     }
@@ -88,15 +100,21 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
         box.checked = box.enabled;
     }
     dialog.form["cbbReportFont"].text = options.font;
-    StreamDialogs dialogs(err);
+    RememberingDialogs dialogs(err);
     SystemClock clock;
     std::optional<PrintJob> job = PressPrint(dialog, record, options.defaultPages, dialogs, clock);
     if (!job) {
+        if (options.json) {
+            PrintJsonError({ExitNothingToPrint, dialogs.last, options.project.string()}, out);
+        }
         return ExitNothingToPrint;
     }
     if (job->pages.empty()) {
-        err << "korvath3-cli: Print Warning: the range holds no page to print; nothing is "
-               "written\n";
+        const std::string warning = "the range holds no page to print; nothing is written";
+        err << "korvath3-cli: Print Warning: " << warning << '\n';
+        if (options.json) {
+            PrintJsonError({ExitNothingToPrint, warning, options.project.string()}, out);
+        }
         return ExitNothingToPrint;
     }
 
