@@ -115,8 +115,12 @@ TEST(AnalyzeCommand, FaultsAndFileErrorsGiveTheirStatusAndNoResults) {
     WriteBytes(text, withLine(example, 11, "three thousand"));
     run = analyze(text, true);
     EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.out, "");
     EXPECT_NE(run.err.find("13: Type mismatch"), std::string::npos) << run.err;
+    // With --json the failure is one object on standard output as well.
+    const auto failure = nlohmann::json::parse(run.out);
+    EXPECT_EQ(failure["error"]["number"], 13);
+    EXPECT_EQ(failure["error"]["message"], "Type mismatch");
+    EXPECT_EQ(failure["error"]["path"], text.string());
 
     // A file cut short in its beams.
     const auto truncated = scratch.path() / "truncated.kvt";
