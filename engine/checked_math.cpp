@@ -3,17 +3,6 @@
 #include <cmath>
 #include <limits>
 
-namespace {
-
-Real finiteOrOverflow(double result) {
-    if (!std::isfinite(result)) {
-        throw ArithmeticFault{FaultKind::Overflow};
-    }
-    return result;
-}
-
-} // namespace
-
 std::string FaultKindName(FaultKind kind) {
     switch (kind) {
     case FaultKind::Overflow:
@@ -26,26 +15,8 @@ std::string FaultKindName(FaultKind kind) {
     return "unknown fault";
 }
 
-Real operator+(Real a, Real b) {
-    return finiteOrOverflow(a.value() + b.value());
-}
-Real operator-(Real a, Real b) {
-    return finiteOrOverflow(a.value() - b.value());
-}
-Real operator*(Real a, Real b) {
-    return finiteOrOverflow(a.value() * b.value());
-}
-Real operator-(Real a) {
-    return -a.value();
-}
-
-Real operator/(Real a, Real b) {
-    if (b.value() == 0.0) {
-        // Zero over zero is the invalid operation that the floating point unit reports as an
-        // overflow; anything else over zero is a division by zero.
-        throw ArithmeticFault{a.value() == 0.0 ? FaultKind::Overflow : FaultKind::DivisionByZero};
-    }
-    return finiteOrOverflow(a.value() / b.value());
+void ThrowArithmeticFault(FaultKind kind) {
+    throw ArithmeticFault{kind};
 }
 
 Real Sqrt(Real x) {
@@ -62,17 +33,7 @@ Real Power(Real x, Real y) {
     if (x.value() == 0.0 && y.value() < 0.0) {
         throw ArithmeticFault{FaultKind::DivisionByZero};
     }
-    return finiteOrOverflow(std::pow(x.value(), y.value()));
-}
-
-Real Abs(Real x) {
-    return std::fabs(x.value());
-}
-Real Floor(Real x) {
-    return std::floor(x.value());
-}
-Real Lesser(Real a, Real b) {
-    return b.value() < a.value() ? b : a;
+    return FiniteOrOverflow(std::pow(x.value(), y.value()));
 }
 
 namespace {

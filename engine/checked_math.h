@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -36,10 +37,37 @@ class Real {
     double m_value;
 };
 
-Real operator+(Real a, Real b);
-Real operator-(Real a, Real b);
-Real operator*(Real a, Real b);
-Real operator/(Real a, Real b);
+// Throws the fault; kept out of line so that the checked operations below stay small enough to
+// be inlined into the formulas.
+[[noreturn]] void ThrowArithmeticFault(FaultKind kind);
+
+// The four operations are inline: each is one machine operation and its check, and a formula
+// evaluates many of them. Inlining changes no result, since every step is still rounded on its
+// own as written (the build allows no fused multiply-add).
+inline Real FiniteOrOverflow(double result) {
+    if (!std::isfinite(result)) {
+        ThrowArithmeticFault(FaultKind::Overflow);
+    }
+    return result;
+}
+
+inline Real operator+(Real a, Real b) {
+    return FiniteOrOverflow(a.value() + b.value());
+}
+inline Real operator-(Real a, Real b) {
+    return FiniteOrOverflow(a.value() - b.value());
+}
+inline Real operator*(Real a, Real b) {
+    return FiniteOrOverflow(a.value() * b.value());
+}
+inline Real operator/(Real a, Real b) {
+    if (b.value() == 0.0) {
+        // Zero over zero is the invalid operation that the floating point unit reports as an
+        // overflow; anything else over zero is a division by zero.
+        ThrowArithmeticFault(a.value() == 0.0 ? FaultKind::Overflow : FaultKind::DivisionByZero);
+    }
+    return FiniteOrOverflow(a.value() / b.value());
+}
 
 // A plain number beside a Real (a count, a literal) is taken as a Real, so that the operation
 // is checked and the order of evaluation stays as written.
@@ -70,14 +98,24 @@ template <PlainNumber T> Real operator/(Real a, T b) {
 template <PlainNumber T> Real operator/(T a, Real b) {
     return Real(static_cast<double>(a)) / b;
 }
-Real operator-(Real a);
+inline Real operator-(Real a) {
+    return -a.value();
+}
 
 Real Sqrt(Real x);
 // x raised to y, as the engineer's "to the power": a negative base takes only whole exponents.
+// Out of line on purpose: the value must always come from the C library's pow at run time, never
+// from the compiler working out a power of two constants in its own, differently rounded way.
 Real Power(Real x, Real y);
-Real Abs(Real x);
-Real Floor(Real x);
-Real Lesser(Real a, Real b);
+inline Real Abs(Real x) {
+    return std::fabs(x.value());
+}
+inline Real Floor(Real x) {
+    return std::floor(x.value());
+}
+inline Real Lesser(Real a, Real b) {
+    return b.value() < a.value() ? b : a;
+}
 
 // 16-bit counts: beam quantities and their sums.
 std::int16_t Sum16(std::int16_t a, std::int16_t b);

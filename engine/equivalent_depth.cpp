@@ -14,16 +14,31 @@ double EquivalentDepth(double Width, double Slab, double Stem, double Inertia, d
     std::int16_t steps = 0;
     Real candidateDepth = 0.0;
     Real candidateInertia = 0.0;
+    // Every trial section has the same slab: half its thickness, its area and its own inertia
+    // are the same in each trial and are not worked out again. Half the thickness is exact. The
+    // area is taken before the first trial, ahead of steps that can only fail by an overflow,
+    // as it can itself, so the fault met is the same. The slab's inertia is worked out in the
+    // first trial in its place within the sum, where a fault would always have been met; later
+    // trials reuse the value, which cannot fail a second time.
+    const Real halfSlab = Real(Slab) / 2;
+    const Real slabArea = Real(Width) * Slab;
+    Real slabInertia = 0.0;
     do {
         candidateDepth = Abs((lower + upper) / 2);
         const Real stemDepth = candidateDepth - Slab;
         const Real stemArea = stemDepth * Stem;
-        const Real slabArea = Real(Width) * Slab;
-        Centroid = ((stemDepth / 2 + Slab) * stemArea + (Real(Slab) / 2) * slabArea) /
-                   (stemArea + slabArea);
-        candidateInertia = Power(Centroid - Real(Slab) / 2, 2) * slabArea +
-                           Power(Slab, 3) * Width / 12 + Power(stemDepth, 3) * Stem / 12 +
-                           Power(stemDepth / 2 + Slab - Centroid, 2) * stemArea;
+        Centroid =
+            ((stemDepth / 2 + Slab) * stemArea + halfSlab * slabArea) / (stemArea + slabArea);
+        if (steps == 0) {
+            candidateInertia = Power(Centroid - halfSlab, 2) * slabArea +
+                               Power(Slab, 3) * Width / 12 + Power(stemDepth, 3) * Stem / 12 +
+                               Power(stemDepth / 2 + Slab - Centroid, 2) * stemArea;
+            slabInertia = Power(Slab, 3) * Width / 12;
+        } else {
+            candidateInertia = Power(Centroid - halfSlab, 2) * slabArea + slabInertia +
+                               Power(stemDepth, 3) * Stem / 12 +
+                               Power(stemDepth / 2 + Slab - Centroid, 2) * stemArea;
+        }
         if (candidateInertia > Inertia) {
             upper = candidateDepth;
         } else if (candidateInertia < Inertia) {
