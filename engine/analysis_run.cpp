@@ -57,11 +57,12 @@ std::string AnalysisStageName(int stage) {
     }
 }
 
-void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results) {
+void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results,
+                     EquivalentDepthMemo* memo) {
     runStage(AnalysisStage::AllowablesAndSections,
              [&] { ComputeAllowablesAndSections(record, results); });
     runStage(AnalysisStage::EquivalentDepths, [&] {
-        ComputeEquivalentDepths(record, results);
+        ComputeEquivalentDepths(record, results, memo);
         ComputeEquivalentSections(record, results);
     });
     runStage(AnalysisStage::SoilBearing, [&] { ComputeSoilBearing(settings, record, results); });

@@ -2,6 +2,7 @@
 
 #include "engine/checked_math.h"
 #include "engine/design_record.h"
+#include "engine/equivalent_depth_memo.h"
 #include "engine/results_record.h"
 
 #include <string>
@@ -33,4 +34,8 @@ std::string AnalysisStageName(int stage);
 //
 // Throws EngineFault at the first arithmetic fault, naming its kind and stage; the results are
 // then incomplete and must not be shown.
-void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results);
+//
+// A memo of equivalent depths (engine/equivalent_depth_memo.h) lets a run of many designs skip
+// the bisections it has already made; the results are the same with or without it.
+void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results,
+                     EquivalentDepthMemo* memo = nullptr);

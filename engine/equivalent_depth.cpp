@@ -49,13 +49,43 @@ double EquivalentDepth(double Width, double Slab, double Stem, double Inertia, d
     return candidateDepth;
 }
 
-void ComputeEquivalentDepths(const DesignRecord& record, ResultsRecord& results) {
+namespace {
+
+// The bisection, or what it gave before for the same section. Equal depths need no bisection
+// and are not remembered.
+double rememberedDepth(EquivalentDepthMemo* memo, double Width, double Slab, double Stem,
+                       double Inertia, double Depth1, double Depth2, double& Centroid) {
+    if (memo == nullptr || Depth1 == Depth2) {
+        return EquivalentDepth(Width, Slab, Stem, Inertia, Depth1, Depth2, Centroid);
+    }
+    const EquivalentDepthMemo::Section section{Width, Slab, Stem, Inertia, Depth1, Depth2};
+    if (const EquivalentDepthMemo::Found* found = memo->find(section)) {
+        if (found->fault) {
+            throw ArithmeticFault{*found->fault};
+        }
+        Centroid = found->centroid;
+        return found->depth;
+    }
+    try {
+        const double depth = EquivalentDepth(Width, Slab, Stem, Inertia, Depth1, Depth2, Centroid);
+        memo->remember(section, {depth, Centroid, std::nullopt});
+        return depth;
+    } catch (const ArithmeticFault& fault) {
+        memo->remember(section, {0.0, 0.0, fault.kind});
+        throw;
+    }
+}
+
+} // namespace
+
+void ComputeEquivalentDepths(const DesignRecord& record, ResultsRecord& results,
+                             EquivalentDepthMemo* memo) {
     results.EquivDepthShort =
-        EquivalentDepth(Real(record.RectLength) * 12, record.SlabThick,
+        rememberedDepth(memo, Real(record.RectLength) * 12, record.SlabThick,
                         record.QS2 * Real(record.WS2) + record.QS1 * Real(record.WS1),
                         results.InertiaShort, record.DS1, record.DS2, results.CgTopShort);
     results.EquivDepthLong =
-        EquivalentDepth(Real(record.RectWidth) * 12, record.SlabThick,
+        rememberedDepth(memo, Real(record.RectWidth) * 12, record.SlabThick,
                         record.QL2 * Real(record.WL2) + record.QL1 * Real(record.WL1),
                         results.InertiaLong, record.DL1, record.DL2, results.CgTopLong);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/design_record.h"
+#include "engine/equivalent_depth_memo.h"
 #include "engine/results_record.h"
 
 // The depth of a single-depth T section (flange `Width` by `Slab`, stem `Stem` wide) whose moment
@@ -12,5 +13,7 @@
 double EquivalentDepth(double Width, double Slab, double Stem, double Inertia, double Depth1,
                        double Depth2, double& Centroid);
 
-// The equivalent beam depths of both directions, short first.
-void ComputeEquivalentDepths(const DesignRecord& record, ResultsRecord& results);
+// The equivalent beam depths of both directions, short first. With a memo, a direction whose
+// section was bisected before takes the depth and centroid found then.
+void ComputeEquivalentDepths(const DesignRecord& record, ResultsRecord& results,
+                             EquivalentDepthMemo* memo = nullptr);

@@ -113,3 +113,72 @@ TEST(AnalysisRun, NoRunLeavesAnInfinityOrNaNInAResult) {
     }
     EXPECT_GT(completed, 100);
 }
+
+namespace {
+
+// The outcome of one run: the results, or the fault's kind and stage.
+struct RunOutcome {
+    ResultsRecord results;
+    int faultKind = -1;
+    int faultStage = -1;
+};
+
+RunOutcome runOnce(DesignRecord record, EquivalentDepthMemo* memo) {
+    RunOutcome outcome;
+    try {
+        RunDesignEngine(EngineSettings{}, record, outcome.results, memo);
+    } catch (const EngineFault& fault) {
+        outcome.faultKind = static_cast<int>(fault.kind());
+        outcome.faultStage = fault.stage();
+        outcome.results = ResultsRecord{};
+    }
+    return outcome;
+}
+
+} // namespace
+
+// Designs that share a direction's section, as a search over beam depths and counts makes them:
+// every run through one memo, on its first sight of a section and again when it is remembered,
+// gives the results and faults of a run without it. The depths differ within each direction, so
+// that the bisection runs; a few designs fault, some of them within the bisection.
+TEST(AnalysisRun, AMemoOfEquivalentDepthsChangesNoResultAndNoFault) {
+    std::mt19937 random(1123);
+    const double depths[] = {12, 16, 18.5, 20, 24, 28, 30, 36};
+    const std::int16_t counts[] = {0, 1, 2, 3, 5, 7, 32000};
+    EquivalentDepthMemo memo;
+    int remembered = 0;
+    int faults = 0;
+    int bisectionFaults = 0;
+    for (int trial = 0; trial < 600; ++trial) {
+        DesignRecord record = SmallRibbedRecord();
+        record.QS2 = counts[random() % 5];
+        record.QL2 = counts[random() % 5];
+        record.DS1 = depths[random() % std::size(depths)];
+        record.DS2 = depths[random() % std::size(depths)];
+        record.DL1 = depths[random() % std::size(depths)];
+        record.DL2 = depths[random() % std::size(depths)];
+        if (trial % 50 == 0) {
+            record.QS1 = counts[5 + random() % 2];
+            record.WS1 = 0;
+        }
+        if (trial % 200 == 1) {
+            // Beams so large that no trial depth matches their inertia to 1e-07 in4: the
+            // bisection runs out of steps.
+            record.QS1 = 100, record.QS2 = 2, record.WS1 = 100, record.WS2 = 100;
+            record.DS1 = 2000, record.DS2 = 3000;
+        }
+        const RunOutcome plain = runOnce(record, nullptr);
+        for (int pass = 0; pass < 2; ++pass) {
+            const RunOutcome memoised = runOnce(record, &memo);
+            EXPECT_EQ(memoised.faultKind, plain.faultKind) << "trial " << trial;
+            EXPECT_EQ(memoised.faultStage, plain.faultStage) << "trial " << trial;
+            EXPECT_EQ(memoised.results, plain.results) << "trial " << trial;
+        }
+        remembered += record.DS1 != record.DS2 ? 1 : 0;
+        faults += plain.faultKind >= 0 ? 1 : 0;
+        bisectionFaults += plain.faultStage == 2 ? 1 : 0;
+    }
+    EXPECT_GT(remembered, 300);
+    EXPECT_GT(faults, bisectionFaults);
+    EXPECT_EQ(bisectionFaults, 3);
+}
