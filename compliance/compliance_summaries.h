@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/styled_text.h"
+#include "compliance/list_lines.h"
 #include "engine/design_record.h"
 #include "engine/results_record.h"
 
@@ -33,3 +34,18 @@ void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
 void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
                         std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
                         StyledText& box);
+
+// The same three lists into a list target (compliance/list_lines.h): appended to its box when
+// it has one, which is not emptied first, or only counted when it has none. Every row notes its
+// margin in the target.
+void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
+                      std::int16_t& centerLift, std::int16_t& edgeLift, std::int16_t& centerDown,
+                      std::int16_t& edgeDown, std::int16_t& bearing, std::int16_t& cracked,
+                      std::int16_t showAll, ListTarget& target);
+void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
+                       std::int16_t ribbedOutCount, std::int16_t& centerLift,
+                       std::int16_t& edgeLift, std::int16_t& centerDown, std::int16_t& edgeDown,
+                       std::int16_t showAll, ListTarget& target);
+void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
+                        std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
+                        ListTarget& target);

@@ -146,28 +146,36 @@ void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, 
     }
 }
 
+UniformRules UniformRulesBroken(const DesignRecord& record, const ResultsRecord& results,
+                                std::int16_t ribbedCount) {
+    UniformRules broken{};
+    if (record.FlatSlab == 1) {
+        broken[0] = ribbedCount != 0;
+        broken[1] = results.UTThickness < 7.5;
+    }
+    return broken;
+}
+
 void UniformExceptions(const DesignRecord& record, const ResultsRecord& results,
                        std::int16_t& count, std::int16_t& ribbedCount, StyledText& box) {
     Clear(box);
 
-    if (record.FlatSlab == 1) {
-        // The uniform thickness foundation is derived from the ribbed one: any ribbed exception
-        // makes it invalid, and stands here as one exception that gives their number.
-        if (ribbedCount != 0) {
-            ReportException(
-                box, count,
-                {"UNIFORM THICKNESS FOUNDATION ANALYSIS INVALID SINCE RIBBED FOUNDATION",
-                 "HAS " + std::to_string(ribbedCount) + " PTI EXCEPTIONS"},
-                "(PTI 3rd Edition 4.5.3)");
-        }
-        if (results.UTThickness < 7.5) {
-            ReportException(
-                box, count,
-                {"UNIFORM THICKNESS FOUNDATION SHOULD BE A MINIMUM OF 7.5 INCHES THICK, UNLESS",
-                 "A CONTINUOUS STIFFENING BEAM COMPLYING WITH PTI 3rd EDITION 4.5.22 AND 4.5.2.3",
-                 "IS PROVIDED ALONG THE ENTIRE PERIMETER OF THE FOUNDATION"},
-                "(PTI 3rd Edition 4.5.3)");
-        }
+    // The uniform thickness foundation is derived from the ribbed one: any ribbed exception
+    // makes it invalid, and stands here as one exception that gives their number.
+    const UniformRules broken = UniformRulesBroken(record, results, ribbedCount);
+    if (broken[0]) {
+        ReportException(box, count,
+                        {"UNIFORM THICKNESS FOUNDATION ANALYSIS INVALID SINCE RIBBED FOUNDATION",
+                         "HAS " + std::to_string(ribbedCount) + " PTI EXCEPTIONS"},
+                        "(PTI 3rd Edition 4.5.3)");
+    }
+    if (broken[1]) {
+        ReportException(
+            box, count,
+            {"UNIFORM THICKNESS FOUNDATION SHOULD BE A MINIMUM OF 7.5 INCHES THICK, UNLESS",
+             "A CONTINUOUS STIFFENING BEAM COMPLYING WITH PTI 3rd EDITION 4.5.22 AND 4.5.2.3",
+             "IS PROVIDED ALONG THE ENTIRE PERIMETER OF THE FOUNDATION"},
+            "(PTI 3rd Edition 4.5.3)");
     }
 
     if (count == 0) {

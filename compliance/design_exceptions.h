@@ -27,6 +27,13 @@ void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, 
 using RibbedRules = std::array<bool, 9>;
 RibbedRules RibbedRulesBroken(const DesignRecord& record, const ResultsRecord& results);
 
+// The two rules of the uniform thickness foundation in the order of its list, each true when
+// broken: the ribbed foundation it is derived from has exceptions (`ribbedCount`), and the slab
+// is under 7.5 in thick. None is broken without a uniform thickness foundation (`FlatSlab` 1).
+using UniformRules = std::array<bool, 2>;
+UniformRules UniformRulesBroken(const DesignRecord& record, const ResultsRecord& results,
+                                std::int16_t ribbedCount);
+
 // Writes the uniform thickness foundation's exceptions into its own box. A ribbed foundation
 // with exceptions (`ribbedCount`, as RibbedExceptions left it) makes the uniform thickness
 // analysis derived from it invalid, and counts as one exception here.

@@ -21,12 +21,24 @@ std::string ItemText(const char* label, double excess) {
     return label + FormatNumber(excess, "#,##0.0") + "%";
 }
 
-void ListItems(StyledText& box, std::span<const LimitItem> items, std::int16_t& counter,
+namespace {
+
+// The row of a value held against its limit; its text is made only when there is a box.
+void appendLimitLine(ListTarget& target, const char* label, double excess, bool overLimit) {
+    if (target.box != nullptr) {
+        AppendItemLine(target, ItemText(label, excess), overLimit);
+    }
+}
+
+} // namespace
+
+void ListItems(ListTarget& target, std::span<const LimitItem> items, std::int16_t& counter,
                bool showAll) {
     for (const LimitItem& item : items) {
         const bool over = !WithinLimit(item);
+        NoteMargin(target, item.excess);
         if (over || showAll) {
-            AppendItemLine(box, ItemText(item.label, item.excess), over);
+            appendLimitLine(target, item.label, item.excess, over);
         }
         if (over) {
             CountItem(counter);
@@ -34,27 +46,33 @@ void ListItems(StyledText& box, std::span<const LimitItem> items, std::int16_t& 
     }
 }
 
-bool ListCenterLiftCracked(StyledText& box, const CrackedItem& item, bool showAll) {
+bool ListCenterLiftCracked(ListTarget& target, const CrackedItem& item, bool showAll) {
     const bool over = !(item.demand <= item.capacity);
+    if (item.valid != 0) {
+        NoteMargin(target, item.excess);
+    }
     if (over) {
-        AppendItemLine(
-            box, item.valid != 0 ? ItemText(item.label, item.excess) : item.notCalculated, true);
+        if (item.valid != 0) {
+            appendLimitLine(target, item.label, item.excess, true);
+        } else {
+            AppendItemLine(target, item.notCalculated, true);
+        }
     } else if (showAll) {
-        AppendItemLine(box, ItemText(item.label, item.excess), false);
+        appendLimitLine(target, item.label, item.excess, false);
     }
     return over;
 }
 
-bool ListEdgeLiftCracked(StyledText& box, const CrackedItem& item, bool showAll) {
+bool ListEdgeLiftCracked(ListTarget& target, const CrackedItem& item, bool showAll) {
     if (item.valid == 0) {
-        AppendItemLine(box, item.notCalculated, true);
+        AppendItemLine(target, item.notCalculated, true);
         return true;
     }
-    return ListCenterLiftCracked(box, item, showAll);
+    return ListCenterLiftCracked(target, item, showAll);
 }
 
-void CloseSection(StyledText& box, bool anyOver, bool showAll) {
+void CloseSection(ListTarget& target, bool anyOver, bool showAll) {
     if (!anyOver && !showAll) {
-        AppendItemLine(box, "ALL VALUES WITHIN ALLOWABLE LIMITS.", false);
+        AppendItemLine(target, "ALL VALUES WITHIN ALLOWABLE LIMITS.", false);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/styled_text.h"
+#include "compliance/list_lines.h"
 
 #include <cstdint>
 #include <span>
@@ -28,8 +28,8 @@ bool WithinLimit(const LimitItem& item);
 std::string ItemText(const char* label, double excess);
 
 // Lists the items of one section: each one over its limit in bold red, counted in `counter`;
-// each one within it in regular black, only when `showAll` is on.
-void ListItems(StyledText& box, std::span<const LimitItem> items, std::int16_t& counter,
+// each one within it in regular black, only when `showAll` is on. Every item notes its margin.
+void ListItems(ListTarget& target, std::span<const LimitItem> items, std::int16_t& counter,
                bool showAll);
 
 // A cracked moment capacity row: the 0.9 moment (demand) against the capacity, with the flag that
@@ -44,11 +44,11 @@ struct CrackedItem {
 };
 
 // Center lift: the flag is looked at only for a row over its limit, whose text it chooses.
-// Gives whether the row counts.
-bool ListCenterLiftCracked(StyledText& box, const CrackedItem& item, bool showAll);
+// Gives whether the row counts. A capacity that could not be calculated has no margin.
+bool ListCenterLiftCracked(ListTarget& target, const CrackedItem& item, bool showAll);
 // Edge lift: a capacity that could not be calculated is listed and counts, whatever the demand.
 // Gives whether the row counts.
-bool ListEdgeLiftCracked(StyledText& box, const CrackedItem& item, bool showAll);
+bool ListEdgeLiftCracked(ListTarget& target, const CrackedItem& item, bool showAll);
 
 // The closing line of a section none of whose items is over its limit, when not all are shown.
-void CloseSection(StyledText& box, bool anyOver, bool showAll);
+void CloseSection(ListTarget& target, bool anyOver, bool showAll);

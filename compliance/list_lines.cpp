@@ -14,12 +14,26 @@ void AppendCleanText(StyledText& box, const std::string& text) {
     Append(box, {.text = "\t" + text + "\n\n", .bold = true, .centred = true});
 }
 
-void AppendSectionHeading(StyledText& box, const std::string& heading) {
-    Append(box, {.text = "\n" + heading + "\n", .bold = true});
+void NoteMargin(ListTarget& target, double excess) {
+    const double margin = -excess / 100;
+    if (!target.smallestMargin || margin < *target.smallestMargin) {
+        target.smallestMargin = margin;
+    }
 }
 
-void AppendItemLine(StyledText& box, const std::string& text, bool overLimit) {
-    Append(box, {.text = "\t" + text + "\n", .bold = overLimit, .red = overLimit});
+void AppendSectionHeading(ListTarget& target, std::string_view heading) {
+    if (target.box == nullptr) {
+        return;
+    }
+    Append(*target.box, {.text = "\n" + std::string(heading) + "\n", .bold = true});
+}
+
+void AppendItemLine(ListTarget& target, std::string_view text, bool overLimit) {
+    if (target.box == nullptr) {
+        return;
+    }
+    Append(*target.box,
+           {.text = "\t" + std::string(text) + "\n", .bold = overLimit, .red = overLimit});
 }
 
 void CountItem(std::int16_t& counter) {

@@ -40,7 +40,7 @@ constexpr const char* ShearLong = "SHEAR STRESS IN LONG DIRECTION : ";
 
 } // namespace
 
-std::int16_t ListLiftRows(StyledText& box, LiftMode mode, const ModeValues& values,
+std::int16_t ListLiftRows(ListTarget& target, LiftMode mode, const ModeValues& values,
                           double allowTension, double allowCompression, std::int16_t& counter,
                           std::int16_t& crackedCounter, bool showAll) {
     const DirectionValues& s = values.shortDirection;
@@ -59,9 +59,9 @@ std::int16_t ListLiftRows(StyledText& box, LiftMode mode, const ModeValues& valu
         Tension(TensionLong, l, allowTension),
     };
     if (mode == LiftMode::CenterLift) {
-        ListItems(box, centerLiftStresses, counter, showAll);
+        ListItems(target, centerLiftStresses, counter, showAll);
     } else {
-        ListItems(box, edgeLiftStresses, counter, showAll);
+        ListItems(target, edgeLiftStresses, counter, showAll);
     }
 
     const LimitItem stiffnessAndShear[] = {
@@ -70,7 +70,7 @@ std::int16_t ListLiftRows(StyledText& box, LiftMode mode, const ModeValues& valu
         Shear(ShearShort, s),
         Shear(ShearLong, l),
     };
-    ListItems(box, stiffnessAndShear, counter, showAll);
+    ListItems(target, stiffnessAndShear, counter, showAll);
 
     const CrackedItem cracked[] = {
         Cracked("CRACKED MOMENT CAPACITY IN SHORT DIRECTION : ",
@@ -80,8 +80,9 @@ std::int16_t ListLiftRows(StyledText& box, LiftMode mode, const ModeValues& valu
     };
     std::int16_t crackedCounted = 0;
     for (const CrackedItem& item : cracked) {
-        const bool counts = mode == LiftMode::CenterLift ? ListCenterLiftCracked(box, item, showAll)
-                                                         : ListEdgeLiftCracked(box, item, showAll);
+        const bool counts = mode == LiftMode::CenterLift
+                                ? ListCenterLiftCracked(target, item, showAll)
+                                : ListEdgeLiftCracked(target, item, showAll);
         if (counts) {
             CountItem(crackedCounter);
             CountItem(crackedCounted);
@@ -90,7 +91,7 @@ std::int16_t ListLiftRows(StyledText& box, LiftMode mode, const ModeValues& valu
     return crackedCounted;
 }
 
-void ListDownRows(StyledText& box, const ModeValues& values, double allowTension,
+void ListDownRows(ListTarget& target, const ModeValues& values, double allowTension,
                   double allowCompression, std::int16_t& counter, bool showAll) {
     const DirectionValues& s = values.shortDirection;
     const DirectionValues& l = values.longDirection;
@@ -104,5 +105,5 @@ void ListDownRows(StyledText& box, const ModeValues& values, double allowTension
         Shear(ShearShort, s),
         Shear(ShearLong, l),
     };
-    ListItems(box, rows, counter, showAll);
+    ListItems(target, rows, counter, showAll);
 }
