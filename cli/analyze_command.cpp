@@ -2,11 +2,11 @@
 
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
-#include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/record_json.h"
 #include "cli/results_summary.h"
 #include "engine/analysis_run.h"
+#include "engine/project_analysis.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>

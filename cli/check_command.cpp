@@ -4,11 +4,11 @@
 #include "cli/compliance_listing.h"
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
-#include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/results_summary.h"
 #include "compliance/compliance_pass.h"
 #include "engine/analysis_run.h"
+#include "engine/project_analysis.h"
 #include "output/results_screen.h"
 
 #include <nlohmann/json.hpp>

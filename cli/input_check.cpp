@@ -3,8 +3,6 @@
 #include "cli/exit_status.h"
 #include "cli/project_loading.h"
 
-#include "engine/checked_math.h"
-#include "engine/tendon_size.h"
 #include "input/input_form.h"
 #include "input/record_values.h"
 
@@ -12,12 +10,7 @@
 
 std::optional<InputFault> FindProjectInputFault(const DesignRecord& record) {
     DesignRecord ready = record;
-    try {
-        ApplyTendonSize(ready);
-    } catch (const ArithmeticFault&) {
-        return std::nullopt;
-    }
-    return FindRecordValueFault(ready);
+    return FindReadyRecordValueFault(ready);
 }
 
 void PrintInputFault(const std::filesystem::path& project, int version, const InputFault& fault,

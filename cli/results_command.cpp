@@ -2,12 +2,12 @@
 
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
-#include "cli/project_analysis.h"
 #include "cli/project_loading.h"
 #include "cli/results_json.h"
 #include "cli/results_listing.h"
 #include "cli/results_summary.h"
 #include "engine/analysis_run.h"
+#include "engine/project_analysis.h"
 #include "output/results_screen.h"
 #include "output/results_tabs.h"
 

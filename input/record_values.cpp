@@ -1,5 +1,8 @@
 #include "input/record_values.h"
 
+#include "engine/checked_math.h"
+#include "engine/tendon_size.h"
+
 #include <string>
 #include <string_view>
 #include <utility>
@@ -291,4 +294,13 @@ std::optional<InputFault> FindRecordValueFault(const DesignRecord& record) {
         return fault;
     }
     return std::nullopt;
+}
+
+std::optional<InputFault> FindReadyRecordValueFault(DesignRecord& record) {
+    try {
+        ApplyTendonSize(record);
+    } catch (const ArithmeticFault&) {
+        return std::nullopt;
+    }
+    return FindRecordValueFault(record);
 }

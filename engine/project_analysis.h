@@ -2,6 +2,7 @@
 
 #include "engine/checked_math.h"
 #include "engine/design_record.h"
+#include "engine/equivalent_depth_memo.h"
 #include "engine/results_record.h"
 
 #include <optional>
@@ -17,6 +18,7 @@ struct AnalysisOutcome {
 constexpr int BeforeFirstStage = 0;
 
 // Makes the record ready as the input screen would (the tendon size from its type) and runs the
-// whole analysis into `results`.
+// whole analysis into `results`, with a memo of equivalent depths when one is given
+// (engine/analysis_run.h).
 AnalysisOutcome AnalyseProject(const EngineSettings& settings, DesignRecord& record,
-                               ResultsRecord& results);
+                               ResultsRecord& results, EquivalentDepthMemo* memo = nullptr);
