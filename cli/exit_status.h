@@ -8,4 +8,8 @@ enum ExitStatus : int {
     ExitEngineFault = 3,
     ExitInputError = 4,
     ExitNothingToPrint = 5,
+    // A design search tried every candidate and none was compliant.
+    ExitNoCompliantDesign = 6,
+    // A design search was interrupted from the terminal; it printed the best found so far.
+    ExitInterrupted = 130,
 };

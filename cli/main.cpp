@@ -5,6 +5,7 @@
 #include "cli/exit_status.h"
 #include "cli/json_error.h"
 #include "cli/new_command.h"
+#include "cli/optimize_command.h"
 #include "cli/report_command.h"
 #include "cli/results_command.h"
 #include "cli/stderr_dialogs.h"
@@ -16,9 +17,12 @@
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
+#include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <optional>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -78,6 +82,27 @@ std::optional<ProgramSettings> LoadProgramSettings(CliError& failure) {
         return std::nullopt;
     }
     return settings;
+}
+
+// The interrupt of the terminal (Ctrl-C) during a design search, which then ends with the best it
+// has found. A signal handler can reach nothing but a lock-free flag of static storage: this is
+// the program's one such flag, set only by the handler and read only by the search.
+std::atomic<bool> searchInterrupted{false};
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+extern "C" void InterruptSearch(int) {
+    searchInterrupted.store(true);
+    // A second interrupt ends the program at once.
+    std::signal(SIGINT, SIG_DFL);
+}
+
+// Runs the search with the interrupt caught, and puts the earlier handling back after it.
+int RunInterruptibleSearch(OptimizeOptions& options) {
+    options.stop = &searchInterrupted;
+    const auto earlier = std::signal(SIGINT, InterruptSearch);
+    const int status = RunOptimizeCommand(options, std::cout, std::cerr);
+    std::signal(SIGINT, earlier == SIG_ERR ? SIG_DFL : earlier);
+    return status;
 }
 
 // Bold and red only on a terminal, and not when the user has asked for no colour.
@@ -186,6 +211,47 @@ int main(int argc, char** argv) {
         ->check(CLI::IsMember({"expansive", "compressible", "lineload"}));
     newCommand->add_option("-o,--output", newOutput, "New project file")->required();
 
+    OptimizeOptions optimize;
+    SettingsFlags optimizeFlags;
+    std::string objective = "concrete";
+    optimize.threads = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+    CLI::App* optimizeCommand = app.add_subcommand(
+        "optimize", "Search ranges of design fields for the lightest compliant foundation");
+    optimizeCommand->add_option("PROJECT", optimize.project, "Project file (.kvt)")->required();
+    optimizeCommand
+        ->add_option("--vary", optimize.ranges,
+                     "FIELD=FROM:TO[:STEP],... fields of the design record to vary (QS1, DS1, "
+                     "WS1, TS1, SlabThick, ForceShort, ...); the step is 1 when not given")
+        ->required()
+        ->delimiter(',');
+    optimizeCommand
+        ->add_option("--objective", objective,
+                     "Rank by the least concrete, tendons or cost (default concrete)")
+        ->check(CLI::IsMember({"concrete", "tendons", "cost"}));
+    optimizeCommand->add_option("--concrete-cost", optimize.concretePrice,
+                                "Price of concrete per cubic yard");
+    optimizeCommand->add_option("--tendon-cost", optimize.tendonPrice,
+                                "Price of tendon per linear foot");
+    optimizeCommand->add_option("--top", optimize.top, "How many of the best to list (10)");
+    optimizeCommand->add_option("-o,--output", optimize.output,
+                                "Write the best design as a project file");
+    optimizeCommand->add_flag("--json", optimize.json, "Print one JSON object");
+    optimizeCommand->add_option("--threads", optimize.threads,
+                                "Threads that try candidates (default: one per core)");
+    optimizeCommand
+        ->add_option("--use-beta", optimizeFlags.useBeta,
+                     "Stresses from the force at Beta (0 or 1); default from the settings")
+        ->check(CLI::IsMember({0, 1}));
+    optimizeCommand
+        ->add_option("--use-beam-only", optimizeFlags.useBeamOnly,
+                     "Bearing on the beam bottoms alone (0 or 1); default from the settings")
+        ->check(CLI::IsMember({0, 1}));
+    optimizeCommand
+        ->add_option("--show-dd", optimizeFlags.showDD,
+                     "Also the differential deflection analysis (0 or 1); default from the "
+                     "settings")
+        ->check(CLI::IsMember({0, 1}));
+
     // Whether the command asked for JSON, so that even a failure to understand it is an object.
     bool wantsJson = false;
     for (int i = 1; i < argc; ++i) {
@@ -252,6 +318,15 @@ int main(int argc, char** argv) {
         int qtArgc = 1;
         QGuiApplication fonts(qtArgc, argv);
         return RunReportCommand(report, std::cout, std::cerr);
+    }
+    if (*optimizeCommand) {
+        optimize.settings = optimizeFlags.over(settings->options);
+        optimize.defaults = settings->defaults;
+        optimize.objective = objective == "tendons" ? SearchObjective::Tendons
+                             : objective == "cost"  ? SearchObjective::Cost
+                                                    : SearchObjective::Concrete;
+        optimize.progress = isatty(STDERR_FILENO) == 1;
+        return RunInterruptibleSearch(optimize);
     }
     if (*newCommand) {
         const ProjectKind kind = newKind == "compressible" ? ProjectKind::Compressible
