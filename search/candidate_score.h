@@ -9,7 +9,7 @@
 //   over the whole rectangle, the long beams over the full length and the short beams between
 //   them, each beam on the equivalent depth of its direction.
 // - The tendon length is `TendonLength` in feet: every tendon of both directions (slab and beam
-//   tendons) over the side it spans, with 2 ft at each end.
+//   tendons) over the side it spans, with 2 ft for its ends.
 // - The cost is the two priced: volume x price per cubic yard + length x price per foot; 0 when
 //   no price is given.
 // - The margin is the smallest part of a limit to spare over the rows of the compliance lists,

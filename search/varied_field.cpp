@@ -143,8 +143,8 @@ VariedField ParseVariedField(std::string_view text) {
     varied.field = FindDesignField(name);
     if (varied.field == nullptr) {
         throw SearchRequestError("unknown field " + quoted(name) +
-                                 ": a field of the design record is named exactly as in the "
-                                 "project file's record, such as DS1, QS1, TS1 or SlabThick");
+                                 ": give a field of the design record by its name, such as DS1, "
+                                 "QS1, TS1 or SlabThick");
     }
     if (varied.field->kind == FieldKind::Text) {
         throw SearchRequestError(quoted(name) + " is a text and cannot be varied");

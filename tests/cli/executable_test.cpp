@@ -125,3 +125,36 @@ TEST(Executable, ReportWritesAWholePdfOrNothing) {
                             std::filesystem::directory_iterator()),
               2); // the settings and the first PDF, no partial file
 }
+
+// The search as a script runs it: the same JSON on one thread or two, the best written and
+// analysed, and a bad range refused with status 1 and one error object.
+TEST(Executable, OptimizeGivesTheSameAnswerOnOneThreadOrTwo) {
+    ScratchFolder scratch;
+    const auto settings = scratch.path() / "settings.conf";
+    const auto cli = [&](const std::string& arguments) { return ::cli(settings, arguments); };
+    const std::string example = ExamplePath("expansive_ribbed.kvt").string();
+    const std::string search = "optimize '" + example +
+                               "' --vary ForceShort=0.1:0.3:0.05,ForceLong=0.1:0.3:0.05 "
+                               "--vary DS1=20:30:2,QS1=4:6 --objective tendons --top 4 --json";
+    const Outcome one = cli(search + " --threads 1");
+    const Outcome two =
+        cli(search + " --threads 2 -o '" + (scratch.path() / "best.kvt").string() + "'");
+    ASSERT_EQ(one.status, 0) << one.out;
+    EXPECT_EQ(two.status, 0) << two.out;
+    EXPECT_EQ(two.out, one.out);
+    const std::string tendons = "\"TendonLength\": ";
+    const std::size_t at = one.out.find(tendons);
+    ASSERT_NE(at, std::string::npos);
+    const std::string best = one.out.substr(at, one.out.find('\n', at) - at);
+    const Outcome analysed = cli("analyze '" + (scratch.path() / "best.kvt").string() + "' --json");
+    EXPECT_EQ(analysed.status, 0);
+    EXPECT_NE(analysed.out.find(best), std::string::npos) << best;
+
+    const Outcome refused = cli("optimize '" + example + "' --vary DS1=20:30:0 --json");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.out.find("\"message\": \"the step of \\\"DS1=20:30:0\\\" is 0\""),
+              std::string::npos)
+        << refused.out;
+    EXPECT_EQ(cli("optimize '" + example + "'").status, 1);
+    EXPECT_EQ(cli("optimize '" + example + "' --vary DS1=20:22 --objective mass").status, 1);
+}
