@@ -2,7 +2,7 @@
 #   make run    install what is missing, build, analyse and check the bundled examples and
 #               write their entire reports to build/reports/
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
-#   make bench  time the analysis and the project files
+#   make bench  time the analysis, the project files and the design search
 #   make screenshots  pictures of the desktop program's windows in build/screenshots/
 #   make fuzz   the libFuzzer targets in build-fuzz/ (make test runs each briefly)
 
