@@ -1,4 +1,5 @@
-// Candidates per second of a design search on the expansive example, on every core.
+// Candidates per second of a design search on the expansive example: on one thread, and on one
+// thread per core (argument 0).
 
 #include "common/date_text.h"
 #include "search/design_search.h"
@@ -34,7 +35,9 @@ void BM_DesignSearch_ExpansiveRibbed(benchmark::State& state) {
     request.project.ForceLong = 0.25;
     request.grid = ParseCandidateGrid(ranges);
     SearchControl control;
-    control.threads = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+    control.threads = state.range(0) > 0
+                          ? static_cast<int>(state.range(0))
+                          : static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
     std::int64_t tried = 0;
     for (auto _ : state) {
         const SearchOutcome outcome = RunDesignSearch(request, control);
@@ -48,4 +51,8 @@ void BM_DesignSearch_ExpansiveRibbed(benchmark::State& state) {
 
 } // namespace
 
-BENCHMARK(BM_DesignSearch_ExpansiveRibbed)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_DesignSearch_ExpansiveRibbed)
+    ->Arg(1)
+    ->Arg(0)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);

@@ -46,8 +46,11 @@ bool stopAsked(const SearchControl& control) {
     return control.stop != nullptr && control.stop->load(std::memory_order_relaxed);
 }
 
-void tryCandidates(const SearchRequest& request, const SearchControl& control, SharedWork& work,
-                   ThreadFindings& findings) {
+// The findings are kept on the thread's own stack while it works and handed over at the end:
+// threads that counted side by side in one array would share cache lines and slow each other.
+ThreadFindings tryCandidates(const SearchRequest& request, const SearchControl& control,
+                             SharedWork& work) {
+    ThreadFindings findings(request.objective, request.best);
     CandidateRunner runner(request.project, request.grid, request.settings, request.prices);
     const std::int64_t total = request.grid.count();
     while (!stopAsked(control)) {
@@ -78,6 +81,7 @@ void tryCandidates(const SearchRequest& request, const SearchControl& control, S
         findings.tried += index - start;
         work.tried.fetch_add(index - start, std::memory_order_relaxed);
     }
+    return findings;
 }
 
 } // namespace
@@ -94,7 +98,7 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
             threads.emplace_back([&request, &control, &work, &mine] {
                 ClearUpperVectorState();
                 try {
-                    tryCandidates(request, control, work, mine);
+                    mine = tryCandidates(request, control, work);
                 } catch (...) {
                     mine.failure = std::current_exception();
                 }
