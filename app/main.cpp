@@ -12,6 +12,7 @@
 #include "shell/settings_file_check.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QStringList>
 #include <iostream>
 #include <memory>
@@ -19,15 +20,19 @@
 #include <string>
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("Korvath 3.0");
-    QApplication::setApplicationVersion("3.0");
-    QStringList arguments = QApplication::arguments();
-    arguments.removeFirst();
-    if (arguments.size() == 1 && arguments.front() == "--version") {
+    // The version needs no window, nor a display to put one on.
+    if (argc == 2 && std::string(argv[1]) == "--version") {
         std::cout << "Korvath 3.0 (Build 100712)\n";
         return 0;
     }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Korvath 3.0");
+    QApplication::setApplicationVersion("3.0");
+    // The installed desktop entry and icon, where the desktop knows them.
+    QGuiApplication::setDesktopFileName("korvath3");
+    QApplication::setWindowIcon(QIcon::fromTheme("korvath3"));
+    QStringList arguments = QApplication::arguments();
+    arguments.removeFirst();
 
     // A settings file that cannot serve is left as it is; the run keeps its settings in memory.
     const std::filesystem::path settingsFile = SettingsFilePath();
