@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 #include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -21,6 +24,18 @@ ResultsScreen Filled(const DesignRecord& record, const ResultsRecord& results,
     ResultsScreen screen = LoadResultsScreen();
     FillResults(screen, record, results, settings);
     return screen;
+}
+
+// The row of a page whose fixed caption reads `text`; a failure when the page has none.
+const ResultRow* RowCaptioned(const ResultsScreen& screen, const std::string& frame,
+                              const std::string& text) {
+    for (const ResultRow& row : PageOfFrame(screen.pages, frame).rows) {
+        if (screen.form[row.caption].caption == text) {
+            return &row;
+        }
+    }
+    ADD_FAILURE() << "no row \"" << text << "\" on " << frame;
+    return nullptr;
 }
 
 // A rectangle of 40 x 60 ft with a 4 in slab and half-inch tendons, and results chosen so that
@@ -137,6 +152,44 @@ TEST(FillResults, EdgeDownPrestressStandsInBracketsAfterCenterDown) {
     EXPECT_EQ(Text(screen, "lblUTS(1)"), "Effective Prestress at Beta - Center Down :");
     EXPECT_FALSE(Visible(screen, "lblSV(1)") || Visible(screen, "lblBETA(2)"));
     EXPECT_FALSE(Visible(screen, "lbleqSV(1)") || Visible(screen, "lbleqBETA(3)"));
+}
+
+TEST(FillResults, EachDownPageShowsItsOwnDeflectionRatioAndDeflections) {
+    DesignRecord record = PlainRibbedRecord();
+    record.SoilType = 1, record.CLSettleState = 1, record.FlatSlab = 1;
+    record.DefSettle = 1200, record.DefCLSettle = 480;
+    ResultsRecord r = CompliantResults();
+    r.NetDeflCDShort = 0.125, r.AllowDeflCDShort = 0.28;
+    r.NetDeflEDShort = 0.375, r.AllowDeflEDShort = 0.9; // L / 480 of a 36 ft width
+    r.NetDeflEDLong = 0.3649, r.AllowDeflEDLong = 1.35; // L / 480 of a 54 ft length
+    r.UTNetDeflEDShort = 0.2, r.UTAllowDeflEDShort = 0.9;
+    const ResultsScreen screen = Filled(record, r);
+
+    // Center down is held to L / 1200, edge down to L / 480; each page names its own ratio.
+    EXPECT_EQ(Text(screen, "lblDefSettle(0)"), "1,200");
+    EXPECT_EQ(Text(screen, "lblDefSettle(1)"), "480");
+    EXPECT_EQ(Text(screen, "lbleqDefSettle(0)"), "1,200");
+    EXPECT_EQ(Text(screen, "lbleqDefSettle(1)"), "480");
+    const std::string ratioCaption = "Based on an allowable deflection of L /";
+    for (const auto& [frame, ratio] : std::vector<std::pair<std::string, std::string>>{
+             {"fraExpOutput(7)", "lblDefSettle(0)"},
+             {"fraExpOutput(8)", "lblDefSettle(1)"},
+             {"fraUTFOutput(6)", "lbleqDefSettle(0)"},
+             {"fraUTFOutput(7)", "lbleqDefSettle(1)"}}) {
+        const ResultRow* row = RowCaptioned(screen, frame, ratioCaption);
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->values, std::vector<std::string>{ratio}) << frame;
+    }
+
+    // The actual and allowable deflections of each mode, to the hundredth of an inch.
+    EXPECT_EQ(Text(screen, "lblcDDS"), "0.13");
+    EXPECT_EQ(Text(screen, "lblAcDDS"), "0.28");
+    EXPECT_EQ(Text(screen, "lblcCLDDS"), "0.38");
+    EXPECT_EQ(Text(screen, "lblcACLDDS"), "0.90");
+    EXPECT_EQ(Text(screen, "lblcCLDDL"), "0.36");
+    EXPECT_EQ(Text(screen, "lblcACLDDL"), "1.35");
+    EXPECT_EQ(Text(screen, "lbleqcCLDD(0)"), "0.20");
+    EXPECT_EQ(Text(screen, "lbleqcCLADD(0)"), "0.90");
 }
 
 TEST(FillResults, EquivalentDepthShowsOnlyForTwoGroupsOfDifferentDepths) {
