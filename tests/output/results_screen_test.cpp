@@ -3,6 +3,7 @@
 
 #include "tests/compliance/compliance_test_support.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
@@ -36,6 +37,22 @@ const ResultRow* RowCaptioned(const ResultsScreen& screen, const std::string& fr
     }
     ADD_FAILURE() << "no row \"" << text << "\" on " << frame;
     return nullptr;
+}
+
+// The texts of the rows a page shows, top to bottom: the caption, then each value.
+std::vector<std::string> ShownRows(const ResultsScreen& screen, const std::string& frame) {
+    std::vector<std::string> shown;
+    for (const ResultRow& row : PageOfFrame(screen.pages, frame).rows) {
+        if (!IsRowShown(screen.form, row)) {
+            continue;
+        }
+        std::string text = screen.form[row.caption].caption;
+        for (const std::string& value : row.values) {
+            text += " | " + screen.form[value].caption;
+        }
+        shown.push_back(text);
+    }
+    return shown;
 }
 
 // A rectangle of 40 x 60 ft with a 4 in slab and half-inch tendons, and results chosen so that
@@ -258,6 +275,37 @@ TEST(FillResults, VisibilityFollowsTheOptionsAndTheResults) {
     EXPECT_FALSE(Visible(screen, "lblUseBeta(4)"));
     EXPECT_FALSE(Visible(screen, "lblEm5RuleS"));
     EXPECT_FALSE(Visible(screen, "fraDD(1)"));
+}
+
+TEST(FillResults, DifferentialDeflectionPanelShowsUnderItsTitleOnlyWhenAsked) {
+    const DesignRecord record = PlainRibbedRecord();
+    ResultsRecord r = CompliantResults();
+    r.NetDeflCLShort = 0.755, r.NetDeflCLLong = 0.75, r.AllowDeflCLShort = 1;
+    r.AllowDeflCLLong = 1.5; // L / 480 of 40 and 60 ft
+    r.NetDeflELShort = 0.0449, r.AllowDeflELShort = 0.5;
+    ResultsScreen screen = Filled(record, r, {.ShowDD = 1});
+
+    const std::vector<std::string> centerLift = ShownRows(screen, "fraExpOutput(3)");
+    const std::vector<std::string> panel = {
+        "DIFFERENTIAL DEFLECTION",
+        "Note:  This calculation is not included in or required by the 3rd Edition PTI Manual",
+        "Actual Deflection : | 0.76 | 0.75", "Allowable Deflection : | 1.00 | 1.50"};
+    const auto title = std::find(centerLift.begin(), centerLift.end(), panel[0]);
+    ASSERT_NE(title, centerLift.end());
+    EXPECT_EQ(std::vector<std::string>(title, title + 4), panel);
+    const std::vector<std::string> edgeLift = ShownRows(screen, "fraExpOutput(4)");
+    EXPECT_EQ(std::count(edgeLift.begin(), edgeLift.end(), "DIFFERENTIAL DEFLECTION"), 1);
+    EXPECT_EQ(std::count(edgeLift.begin(), edgeLift.end(), "Actual Deflection : | 0.04 | 0.00"), 1);
+
+    // Without the option neither the panel's title nor its rows show.
+    FillResults(screen, record, r, {});
+    for (const char* frame : {"fraExpOutput(3)", "fraExpOutput(4)"}) {
+        for (const std::string& row : ShownRows(screen, frame)) {
+            EXPECT_TRUE(row.find("DEFLECTION") == std::string::npos &&
+                        row.find("Deflection") == std::string::npos)
+                << frame << ": " << row;
+        }
+    }
 }
 
 TEST(FillResults, LineLoadPageNamesBothSlabsWithAUniformFoundation) {
