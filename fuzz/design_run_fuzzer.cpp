@@ -100,7 +100,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Fail("a result is not finite");
         }
     }
-    ResultsScreen screen = LoadResultsScreen();
+    // The screen stays loaded from one analysis to the next, as in the program.
+    static ResultsScreen screen = LoadResultsScreen();
     CompliancePass pass;
     try {
         pass = FillResults(screen, record, results, settings);
