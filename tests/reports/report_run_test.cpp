@@ -184,3 +184,42 @@ TEST(PrintRSV, EquivalentDepthOnlyForADirectionOfDifferingDepths) {
     PrintRSV(even.page, Heights, true);
     EXPECT_FALSE(even.Has("Equivalent Beam Depth (Inches) :"));
 }
+
+TEST(PrintResults, LinesStepAWholeLineUnlessTheSheetWouldRunIntoTheFooter) {
+    // The edge lift sheet of an expansive project has room: its lines are one line height apart.
+    Report lift;
+    PrintRROA(lift.page, Heights, true);
+    ASSERT_EQ(lift.surface.sheets().size(), 2u);
+    const auto y = [](const Report& report, const std::string& text, std::size_t sheet) {
+        for (const RecordedText& placed : report.surface.sheets().at(sheet).texts) {
+            if (placed.text == text) {
+                return placed.y;
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + text);
+    };
+    EXPECT_EQ(y(lift, "0.9 Moment  (FT-K)", 1) - y(lift, "Cracked Section Capacity  (FT-K)", 1),
+              230);
+    // The title at 3322, the block's heading two lines below, then "Short", "Direction" and the
+    // capacity: 3322 + 5 x 230.
+    EXPECT_EQ(y(lift, "Cracked Section Capacity  (FT-K)", 1), 4472);
+
+    // Center down alone, bearing on the beam bottoms: 49 lines, the title's and the shear
+    // stresses' 48 steps apart, too many for a sheet at 230 twips. The lowest line ends on the
+    // footer's top, 14260 - 1.5 x 230 = 13915: every step is shortened to
+    // (13915 - 230 - 3322) / (48 x 230) of a line, and the shear stresses stand at 13685.
+    Report down;
+    down.record.SoilType = 1, down.record.CLSettleState = 0;
+    down.page.settings.UseBeamOnly = 1;
+    PrintRROA_Comp(down.page, Heights, true);
+    ASSERT_EQ(down.surface.sheets().size(), 1u);
+    const double share = (13915.0 - 230 - 3322) / (48 * 230);
+    EXPECT_NEAR(y(down, "Actual Shear Stress  (PSI)", 0), 13685, 1e-6);
+    EXPECT_NEAR(y(down, "Soil Bearing Analysis", 0), 3322 + 2 * 230 * share, 1e-6);
+    for (const RecordedText& placed : down.surface.sheets().front().texts) {
+        if (placed.y > 3322 && placed.size == 10 && placed.text.rfind("Page ", 0) != 0 &&
+            placed.y < 14000) {
+            EXPECT_LE(placed.y + 230, 13915 + 1e-6) << placed.text;
+        }
+    }
+}
