@@ -9,6 +9,7 @@ namespace {
 constexpr double ShortCentre = 8640;
 constexpr double LongCentre = 10060;
 constexpr double EdgeOffset = 350;
+static_assert(ShortCentre + EdgeOffset == SingleValueEdge);
 
 // The four columns of the stress tables: tension short and long, then compression.
 constexpr double StressCentres[] = {4360, 5460, 8640, 9740};
@@ -73,7 +74,7 @@ void PowerPairRow(PageWriter& w, const std::string& before, const std::string& p
 void SingleRow(PageWriter& w, const std::string& label, const std::string& value,
                const std::string& unit) {
     w.Label(label);
-    w.Value(ShortCentre + EdgeOffset, value, unit);
+    w.Value(SingleValueEdge, value, unit);
     w.Step();
 }
 

@@ -10,6 +10,9 @@
 
 std::string Formatted(double value, const char* pattern);
 
+// The right edge of a line's single value, level with the values of the short column.
+inline constexpr double SingleValueEdge = 8990;
+
 // A block heading at column 1, and a line after it.
 void BlockHeading(PageWriter& w, const std::string& heading);
 // The same with the note that stresses come from the prestress at Beta after it on its line.

@@ -41,18 +41,39 @@ std::string FrictionLine(std::int16_t subgradeType) {
     }
 }
 
+// The bearing area and the pressure on the soil share one line: the area in the middle, the
+// pressure's label after it and its value in the value column. The label that names the beam
+// bottoms leaves no room for that at 10 point: the area then ends its line in the value column
+// and the pressure follows as a line of its own.
+constexpr double BearingAreaEdge = 5040;
+constexpr double PressureLabelX = 5760;
+constexpr double LabelGap = 200;
+
+void AreaValue(PageWriter& w, double rightEdge, const std::string& area) {
+    w.Value(rightEdge, area, "  FT");
+    w.TextAt(rightEdge + w.surface().TextWidth("  FT"), -30, "2");
+}
+
 void SoilBearingBlock(PageWriter& w, bool compressiblePage) {
     const ResultsRecord& r = w.page().results;
+    DrawingSurface& s = w.surface();
     BlockHeading(w, "Soil Bearing Analysis");
     SingleRow(w, "Total Applied Load", F(r.TotalAppliedLoad, "###,##0"), "  LB");
-    // The bearing area and the pressure on the soil: one line of the page, set here as two so
-    // that the long label of the beam bottoms leaves room for the values.
-    w.Label(BearingAreaLabel(w.page(), compressiblePage));
+    const std::string label = BearingAreaLabel(w.page(), compressiblePage);
     const std::string area = F(r.BearingArea, "###,##0");
-    w.Value(8990, area, "  FT");
-    w.TextAt(8990 + w.surface().TextWidth("  FT"), -30, "2");
-    w.Step();
-    SingleRow(w, "Applied Pressure on Soil", F(r.SoilPressure, "###,##0"), "  PSF");
+    const std::string pressure = F(r.SoilPressure, "###,##0");
+    w.Label(label);
+    const double labelEnd = w.page().column2 + s.TextWidth(label);
+    if (labelEnd + LabelGap + s.TextWidth(area) <= BearingAreaEdge) {
+        AreaValue(w, BearingAreaEdge, area);
+        w.Text(PressureLabelX, "Applied Pressure on Soil");
+        w.Value(SingleValueEdge, pressure, "  PSF");
+        w.Step();
+    } else {
+        AreaValue(w, SingleValueEdge, area);
+        w.Step();
+        SingleRow(w, "Applied Pressure on Soil", pressure, "  PSF");
+    }
     SingleRow(w, "Soil Pressure Safety Factor", F(r.BearingSafety, "###,##0.00"), "");
     BetweenBlocks(w);
 }
@@ -194,8 +215,8 @@ void UniformHead(PageWriter& w) {
     const ResultsRecord& r = page.results;
     BoldBlack(w.surface());
     w.Label("Uniform Thickness Slab");
-    w.Value(8990, F(r.UTThickness, "#,##0.00") + " (" + F(r.EquivSlabThick, "#,##0.00") + ")",
-            " Inches");
+    w.Value(SingleValueEdge,
+            F(r.UTThickness, "#,##0.00") + " (" + F(r.EquivSlabThick, "#,##0.00") + ")", " Inches");
     UnboldBlack(w.surface());
     w.Step();
     w.Label("(rounded to nearest 0.25 inch)");

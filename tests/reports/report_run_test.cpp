@@ -223,3 +223,43 @@ TEST(PrintResults, LinesStepAWholeLineUnlessTheSheetWouldRunIntoTheFooter) {
         }
     }
 }
+
+TEST(PrintResults, BearingAreaAndSoilPressureShareOneLineWhereTheLabelLeavesRoom) {
+    Report r;
+    r.results.BearingArea = 2206.4, r.results.SoilPressure = 166;
+    PrintRROA(r.page, Heights, true);
+    const auto placed = [&r](const std::string& text) {
+        for (const RecordedText& t : r.surface.sheets().front().texts) {
+            if (t.text == text) {
+                return t;
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + text);
+    };
+    // The title at 3322, the heading two lines below, the total load, then the bearing line.
+    const double line = 3322 + 4 * 230;
+    EXPECT_EQ(placed("Bearing Area").y, line);
+    EXPECT_EQ(placed("2,206  FT").y, line);
+    EXPECT_EQ(placed("2,206  FT").x, 5040 - 500);
+    EXPECT_EQ(placed("2").y, line - 30);
+    EXPECT_EQ(placed("2").x, 5040 + 400);
+    EXPECT_EQ(placed("Applied Pressure on Soil").y, line);
+    EXPECT_EQ(placed("Applied Pressure on Soil").x, 5760);
+    EXPECT_EQ(placed("166  PSF").y, line);
+    EXPECT_EQ(placed("166  PSF").x, 8990 - 300);
+    EXPECT_EQ(placed("Soil Pressure Safety Factor").y, line + 230);
+    // So the center lift sheet holds its 46 lines at full steps: the shear stresses 45 lines
+    // below the title.
+    EXPECT_EQ(placed("Actual Shear Stress  (PSI)").y, 3322 + 45 * 230);
+
+    // The label of the beam bottoms, 45 characters from x 2160, runs past the area's column:
+    // the area ends its line in the value column and the pressure has a line of its own.
+    Report beams;
+    beams.record.SoilType = 1, beams.record.CLSettleState = 1;
+    beams.page.settings.UseBeamOnly = 1;
+    beams.results.BearingArea = 598, beams.results.SoilPressure = 614;
+    PrintRROA_Comp(beams.page, Heights, true);
+    EXPECT_EQ(beams.LineOf("Bearing Area (based on beam bottom area only)"),
+              (std::vector<std::string>{"598  FT"}));
+    EXPECT_EQ(beams.LineOf("Applied Pressure on Soil"), (std::vector<std::string>{"614  PSF"}));
+}
