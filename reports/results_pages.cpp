@@ -201,12 +201,14 @@ void DifferentialDeflectionPerSecondEdition(PageWriter& w) {
         {"Center Lift", r.AllowDeflCLShort, r.AllowDeflCLLong, r.NetDeflCLShort, r.NetDeflCLLong},
         {"Edge Lift", r.AllowDeflELShort, r.AllowDeflELLong, r.NetDeflELShort, r.NetDeflELLong},
     };
+    // The mode's heading at column 1 runs past column 2: its lines stand at column 3.
+    const double column3 = w.page().column3;
     for (const auto& m : modes) {
         w.Heading(m.mode);
-        PairRow(w, "Allowable Deflection (Inch)", F(m.allowShort, "#,##0.00"),
-                F(m.allowLong, "#,##0.00"));
-        PairRow(w, "Actual Deflection (Inch)", F(m.actualShort, "#,##0.00"),
-                F(m.actualLong, "#,##0.00"));
+        PairRowAt(w, column3, "Allowable Deflection (Inch)", F(m.allowShort, "#,##0.00"),
+                  F(m.allowLong, "#,##0.00"));
+        PairRowAt(w, column3, "Actual Deflection (Inch)", F(m.actualShort, "#,##0.00"),
+                  F(m.actualLong, "#,##0.00"));
     }
 }
 

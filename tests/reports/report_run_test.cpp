@@ -4,6 +4,7 @@
 #include "reports/results_pages.h"
 
 #include "tests/compliance/compliance_test_support.h"
+#include "tests/reports/report_test_support.h"
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,18 @@ TEST(PrintLLA, UniformSlabLinesAndTheCompressionTestOnTheRibbedStress) {
         EXPECT_EQ(text.find("Uniform"), std::string::npos) << text;
     }
     EXPECT_TRUE(ribbed.Has("ALL VALUES WITHIN ALLOWABLE LIMITS."));
+    // Each stress head ends where the stresses under it end: "-0.300" and 1350 psi as "1.350".
+    EXPECT_EQ(ribbed.LineOf("Allowable Stress :"), (std::vector<std::string>{"-0.300", "1.350"}));
+    const auto rightEnd = [&ribbed](const std::string& text) {
+        for (const RecordedText& t : ribbed.surface.sheets().front().texts) {
+            if (t.text == text) {
+                return t.x + 100.0 * text.size();
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + text);
+    };
+    EXPECT_EQ(rightEnd("Tension in Extreme Fiber"), rightEnd("-0.300"));
+    EXPECT_EQ(rightEnd("Compression in Extreme Fiber"), rightEnd("1.350"));
 
     Report uniform;
     uniform.record.LineLoadType = 1, uniform.record.FlatSlab = 1;
@@ -262,4 +275,53 @@ TEST(PrintResults, BearingAreaAndSoilPressureShareOneLineWhereTheLabelLeavesRoom
     EXPECT_EQ(beams.LineOf("Bearing Area (based on beam bottom area only)"),
               (std::vector<std::string>{"598  FT"}));
     EXPECT_EQ(beams.LineOf("Applied Pressure on Soil"), (std::vector<std::string>{"614  PSF"}));
+}
+
+TEST(PrintReport, NoTwoTextsOfALineRunIntoEachOtherOrPastTheRightEdge) {
+    // Every page of the entire report, in the states that lengthen its lines: both soils, with
+    // and without edge down and the uniform slab, bearing on the beam bottoms or not, each kind
+    // of subgrade friction, a custom tendon, a line load, every check listed, the note of the
+    // prestress at Beta and the second edition's deflections.
+    for (const std::int16_t soil : {0, 1}) {
+        for (const std::int16_t edgeDown : {0, 1}) {
+            for (const std::int16_t flatSlab : {0, 1}) {
+                for (const std::int16_t beamOnly : {0, 1}) {
+                    for (const std::int16_t friction : {0, 1, 2}) {
+                        DesignRecord record = PlainRibbedRecord();
+                        record.SoilType = soil, record.CLSettleState = edgeDown;
+                        record.FlatSlab = flatSlab, record.LineLoadType = 1;
+                        record.Subgradetype = friction, record.TendType = 3;
+                        ResultsRecord results = CompliantResults();
+                        results.BearingArea = 12206, results.SoilPressure = 1660;
+                        PrintJob job;
+                        job.pages = RangePages(PrintRange::Entire, record, {}, {});
+                        job.totalSheets = RangeSheetCount(PrintRange::Entire, record, {}, {});
+                        RecordingSurface surface;
+                        PrintReport(
+                            surface, job, record, results,
+                            {.projectPath = "/lot.kvt",
+                             .showAll = true,
+                             .engine = {.UseBeta = 1, .UseBeamOnly = beamOnly, .ShowDD = 1}});
+                        const std::string state = std::to_string(soil) + std::to_string(edgeDown) +
+                                                  std::to_string(flatSlab) +
+                                                  std::to_string(beamOnly) +
+                                                  std::to_string(friction);
+                        for (std::size_t sheet = 0; sheet < surface.sheets().size(); ++sheet) {
+                            EXPECT_EQ(OverlappingTexts(surface.sheets()[sheet]),
+                                      std::vector<std::string>{})
+                                << state << " sheet " << sheet;
+                            // The stress tables' compression caption, 33 characters of 100
+                            // twips, ends on the right text edge at the latest.
+                            for (const RecordedText& t : surface.sheets()[sheet].texts) {
+                                if (t.text.rfind("Compression in ", 0) == 0) {
+                                    EXPECT_LE(t.x + 100.0 * t.text.size(), 10580)
+                                        << state << " " << t.text;
+                                }
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
 }
