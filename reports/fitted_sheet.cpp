@@ -45,9 +45,10 @@ PageContext OnSurface(const PageContext& page, DrawingSurface& surface) {
             page.colour,  page.showAll, page.RibbedOutCount, page.settings};
 }
 
-// The footer's page number stands one and a half lines above its baseline near y 14260.
-double FooterTop(double lineHeight) {
-    return 14260 - lineHeight * 1.5;
+// The lowest line of a sheet ends half a line above the footer's page number, which stands one
+// and a half lines above its baseline near y 14260.
+double LowestLineEnd(double lineHeight) {
+    return 14260 - lineHeight * 1.5 - lineHeight / 2;
 }
 
 } // namespace
@@ -63,7 +64,7 @@ void DrawFittedSheet(PageContext& page, const LineHeights& heights, const std::s
     // Every step below the top of the body is shortened alike, so the lowest line moves up in
     // proportion to its distance from that top.
     const double top = BodyTop(heights.points10);
-    const double room = FooterTop(heights.points10) - measuring.lowestHeight() - top;
+    const double room = LowestLineEnd(heights.points10) - measuring.lowestHeight() - top;
     const double used = measuring.lowestTop() - top;
     const double share = used > room ? room / used : 1;
 
