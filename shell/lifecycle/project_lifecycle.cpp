@@ -62,12 +62,23 @@ void OpenProjectReset(Program& program, ShellServices& services, const std::stri
     ShowFirstPage(program, services);
 }
 
-// Reads the project at `path` into the record and shows it. The record changes only when the
-// whole file has been read.
-void OpenPath(Program& program, ShellServices& services, const std::string& path) {
-    ProjectState& project = program.project;
+// When the project takes the path it opens: the file dialog gives it before the file is read, so
+// that a failed open keeps the path chosen; a recent file or the command line gives it only once
+// the file has been read, so that a failed open keeps the project's former path.
+enum class PathTaken { BeforeReading, AfterReading };
+
+void TakePath(ProjectState& project, const std::string& path) {
     project.ProjFilePath = path;
     project.ProjFileTitle = TitleOf(path);
+}
+
+// Reads the project at `path` into the record and shows it. The record changes only when the
+// whole file has been read.
+void OpenPath(Program& program, ShellServices& services, const std::string& path, PathTaken taken) {
+    ProjectState& project = program.project;
+    if (taken == PathTaken::BeforeReading) {
+        TakePath(project, path);
+    }
     try {
         const auto tell = [&services](const OldVersionNotice& notice) {
             services.dialogs.ShowMessage({MessageIcon::Information, notice.title, notice.text});
@@ -76,6 +87,9 @@ void OpenPath(Program& program, ShellServices& services, const std::string& path
         const int version =
             ReadDesignFile(path, AllSections, read, program.settings.defaults, tell);
         program.record = read;
+        if (taken == PathTaken::AfterReading) {
+            TakePath(project, path);
+        }
         project.dialogFolder = FolderOf(path);
         program.input.dialogFolder = FolderOf(path);
         OpenProjectReset(program, services, project.ProjFileTitle, path);
@@ -277,12 +291,12 @@ void OpenProject(Program& program, ShellServices& services) {
     if (!path) {
         return; // cancelled
     }
-    OpenPath(program, services, *path);
+    OpenPath(program, services, *path, PathTaken::BeforeReading);
 }
 
 void OpenRecentProject(Program& program, ShellServices& services, const std::string& path) {
     program.project.ProjectChanged = 0;
-    OpenPath(program, services, path);
+    OpenPath(program, services, path, PathTaken::AfterReading);
 }
 
 void OpenAssociatedProject(Program& program, ShellServices& services,

@@ -47,7 +47,8 @@ void OpenRecentCommand(Program& program, ShellServices& services, int index);
 // Opening a path, with or without the dialog, and the program's start with a path on its
 // command line (one pair of surrounding quotation marks is removed). An older version is
 // announced and leaves the project changed. A failure shows "Error opening file - N", hides the
-// input and leaves the caption "Korvath 3.0 - ".
+// input and leaves the caption "Korvath 3.0 - "; the path chosen in the dialog stays the
+// project's, while a recent file or the command line leaves the former path in place.
 void OpenProject(Program& program, ShellServices& services);
 void OpenRecentProject(Program& program, ShellServices& services, const std::string& path);
 void OpenAssociatedProject(Program& program, ShellServices& services,

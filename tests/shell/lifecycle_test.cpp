@@ -230,21 +230,42 @@ TEST(ProjectLifecycle, AFailedOpenHidesTheInputAndSaysWhy) {
     LifecycleFixture f;
     Program& p = f.program;
     const std::string path = f.Example("expansive_ribbed");
-    OpenRecentProject(p, f.services, path);
+    // The command line's path loses one pair of quotation marks; an unquoted one is taken whole.
+    OpenAssociatedProject(p, f.services, "\"" + path + "\"");
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    OpenAssociatedProject(p, f.services, path);
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    EXPECT_TRUE(f.dialogs.messages.empty());
     const DesignRecord before = p.record;
 
+    // A recent file or the command line gives the project its path only once the file has been
+    // read: a failed open keeps the former path and title.
     OpenAssociatedProject(p, f.services, "\"" + f.Path("missing.kvt") + "\"");
     ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Critical);
     EXPECT_EQ(f.dialogs.messages[0].title, "Error opening file - 53");
     EXPECT_EQ(f.dialogs.messages[0].text, "File not found");
     EXPECT_FALSE(p.input.visible);
     EXPECT_EQ(p.project.caption, "Korvath 3.0 - ");
-    EXPECT_EQ(p.project.ProjFilePath, f.Path("missing.kvt")); // the quotation marks removed
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    EXPECT_EQ(p.project.ProjFileTitle, "expansive_ribbed.kvt");
+    EXPECT_EQ(p.project.ProjectChanged, 0);
+    EXPECT_EQ(p.record, before);
+
+    // The file dialog gives its path before the file is read, and the failed open keeps it.
+    f.dialogs.answers = {f.Path("gone.kvt")};
+    OpenCommand(p, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 2u);
+    EXPECT_EQ(f.dialogs.messages[1].title, "Error opening file - 53");
+    EXPECT_EQ(p.project.ProjFilePath, f.Path("gone.kvt"));
+    EXPECT_EQ(p.project.ProjFileTitle, "gone.kvt");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - ");
     EXPECT_EQ(p.record, before);
 
     // A cancelled dialog is silent and changes nothing.
     OpenCommand(p, f.services);
-    EXPECT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages.size(), 2u);
+    EXPECT_EQ(p.project.ProjFilePath, f.Path("gone.kvt"));
 }
 
 TEST(ProjectLifecycle, SaveFailuresKeepTheProjectChanged) {
