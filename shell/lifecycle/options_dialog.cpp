@@ -79,6 +79,16 @@ const char* const RuledControls[] = {"optTendType",     "optSlabRefType",  "cbSl
                                      "optBeamSpacing",  "optSubgradetype", "cbUseDeadLoad",
                                      "cbCLSettleState", "optPreLineLoad",  "cbLineLoadType"};
 
+// LoadOptionValues, then the switches of the loaded choices: the fields they switch off are
+// blank already and are disabled too, the ones they switch on enabled.
+void FillOptionsForm(Program& program, ShellServices& services) {
+    FormModel& form = program.options.form;
+    LoadOptionValues(services, program.settings, form);
+    for (const char* ruled : RuledControls) {
+        ApplyRule(form, ruled, nullptr);
+    }
+}
+
 const FormModel& InputCaptions() {
     static const FormModel form = MakeInputForm();
     return form;
@@ -131,11 +141,7 @@ int OptionsTabShown(const OptionsDialog& dialog) {
 }
 
 void ShowOptionsDialog(Program& program, ShellServices& services, int tab) {
-    LoadOptionValues(services, program.settings, program.options.form);
-    // The fields the loaded choices switch off are blank already; they are disabled too.
-    for (const char* ruled : RuledControls) {
-        ApplyRule(program.options.form, ruled, nullptr);
-    }
+    FillOptionsForm(program, services);
     program.options.form["tabOptions"].selectedIndex = tab;
     program.options.visible = true;
 }
@@ -190,7 +196,7 @@ void OptionsApply(Program& program, ShellServices& services, const AssociationTa
     if (form["cbRestore"].checked) {
         RestoreAndSaveAll(program, services);
         SetStartFolders(program);
-        LoadOptionValues(services, program.settings, form);
+        FillOptionsForm(program, services);
         dialog.TabChanged.fill(false);
         dialog.applyEnabled = false;
     } else {
