@@ -138,8 +138,9 @@ NothingToPrintWarning(const DesignRecord& record,
                               "Analysis yet the \nLine Load Analysis was not performed therefore "
                               "there is nothing to print."};
     }
+    // This one alone is a plain box, without the exclamation mark of the two above.
     if (!OnlyFlaggedBetween(defaultPages, 0, ReportPageCount - 1)) {
-        return MessageRequest{MessageIcon::Exclamation, WarningTitle,
+        return MessageRequest{MessageIcon::None, WarningTitle,
                               "The Default Report has no pages selected therefore therefore "
                               "there is nothing to print."};
     }

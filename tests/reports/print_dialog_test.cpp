@@ -103,18 +103,23 @@ TEST(PrintDialog, DefaultReportWithNothingToPrintWarnsAndStaysOpen) {
     uniformOnly[4] = uniformOnly[6] = 1;
     Flags lineLoadOnly{};
     lineLoadOnly[9] = 1;
+    // The first two carry the exclamation mark; the third is a plain box under the same title.
     const struct {
         Flags flags;
+        MessageIcon icon;
         std::string text;
     } cases[] = {
-        {uniformOnly, "The Default Report contains only pages relating to Uniform Thickness "
-                      "Foundations yet the \nUniform Thickness Foundation was not analyzed "
-                      "therefore there is nothing to print."},
-        {lineLoadOnly, "The Default Report contains only pages relating to the Line Load Analysis "
-                       "yet the \nLine Load Analysis was not performed therefore there is nothing "
-                       "to print."},
-        {Flags{}, "The Default Report has no pages selected therefore therefore there is nothing "
-                  "to print."},
+        {uniformOnly, MessageIcon::Exclamation,
+         "The Default Report contains only pages relating to Uniform Thickness "
+         "Foundations yet the \nUniform Thickness Foundation was not analyzed "
+         "therefore there is nothing to print."},
+        {lineLoadOnly, MessageIcon::Exclamation,
+         "The Default Report contains only pages relating to the Line Load Analysis "
+         "yet the \nLine Load Analysis was not performed therefore there is nothing "
+         "to print."},
+        {Flags{}, MessageIcon::None,
+         "The Default Report has no pages selected therefore therefore there is nothing "
+         "to print."},
     };
     const DesignRecord record = Project(0, 0, 0, 0);
     FixedClock clock("November 23, 2026");
@@ -125,7 +130,7 @@ TEST(PrintDialog, DefaultReportWithNothingToPrintWarnsAndStaysOpen) {
         EXPECT_FALSE(PressPrint(dialog, record, c.flags, dialogs, clock));
         ASSERT_EQ(dialogs.messages.size(), 1u);
         EXPECT_EQ(dialogs.messages[0].title, "Print Warning");
-        EXPECT_EQ(dialogs.messages[0].icon, MessageIcon::Exclamation);
+        EXPECT_EQ(dialogs.messages[0].icon, c.icon);
         EXPECT_EQ(dialogs.messages[0].text, c.text);
         EXPECT_TRUE(dialog.visible);
         EXPECT_FALSE(dialog.busyPointer);
