@@ -111,7 +111,7 @@ void MainWindow::BuildMenus() {
     });
     QAction* print = AddAction(file, "mnuPrint", "&Print ...");
     print->setShortcut(QKeySequence::Print);
-    connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(); });
+    connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(PrintPath::Menu); });
     QAction* recentSeparator = file->addSeparator();
     recentSeparator->setObjectName("mnuRUSeparator");
     m_actions["mnuRUSeparator"] = recentSeparator;
@@ -201,7 +201,7 @@ void MainWindow::BuildToolbar() {
     });
     toolbar->addSeparator();
     connect(button("Print", 6, QStyle::SP_FileDialogDetailedView), &QToolButton::clicked, this,
-            [this] { OpenPrintDialog(); });
+            [this] { OpenPrintDialog(PrintPath::Toolbar); });
     toolbar->addSeparator();
     connect(button("Input", 8, QStyle::SP_FileDialogContentsView), &QToolButton::clicked, this,
             [this] {
@@ -280,11 +280,11 @@ void MainWindow::RunAnalysis() {
     Refresh();
 }
 
-void MainWindow::OpenPrintDialog() {
+void MainWindow::OpenPrintDialog(PrintPath path) {
     if (!m_program.project.printEnabled) {
         return;
     }
-    m_print->Open();
+    m_print->Open(path);
     Refresh();
 }
 

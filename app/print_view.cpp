@@ -133,7 +133,7 @@ PrintView::PrintView(Program& program, ShellServices& services,
     layout->addLayout(body);
 }
 
-void PrintView::Open() {
+void PrintView::Open(PrintPath path) {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (!info.isNull()) {
         m_printer.setPrinterName(info.printerName());
@@ -142,7 +142,7 @@ void PrintView::Open() {
     for (const QString& family : QFontDatabase::families()) {
         fonts.push_back(family.toStdString());
     }
-    PrintCommand(m_program, fonts, PrinterName(m_printer).toStdString());
+    PrintCommand(m_program, fonts, PrinterName(m_printer).toStdString(), path);
     Refresh();
     exec();
     EndPrinting(m_program.print);
@@ -214,7 +214,7 @@ bool PrintView::SaveAsPdf(const QString& path) {
         EndPrinting(m_program.print);
         Refresh();
         m_services.dialogs.ShowMessage(
-            {MessageIcon::Critical, "Printing Critical Error", error.description()});
+            PrinterErrorMessage(error.number(), error.description(), m_program.print.openedFrom));
         return false;
     }
     EndPrinting(m_program.print);

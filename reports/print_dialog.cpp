@@ -97,7 +97,9 @@ void ChoosePrintRange(PrintDialog& dialog, const DesignRecord& record, PrintRang
 }
 
 void OpenPrintDialog(PrintDialog& dialog, const DesignRecord& record,
-                     const std::vector<std::string>& fonts, const std::string& printerName) {
+                     const std::vector<std::string>& fonts, const std::string& printerName,
+                     PrintPath path) {
+    dialog.openedFrom = path;
     ChoosePrintRange(dialog, record, ChosenRange(dialog));
     dialog.form["cbbReportFont"].items = fonts;
     dialog.form["lblCurrentPrinter"].caption = printerName;

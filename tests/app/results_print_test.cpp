@@ -143,7 +143,7 @@ TEST(ResultsWindow, ASummaryLineJumpsToItsTabAndDisplayAllListsEveryValue) {
 TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
     Analysed a("compressible_edge_down");
     PrintView* print = a.window.printView();
-    PrintCommand(a.program, {"Arial"}, "PDF file");
+    PrintCommand(a.program, {"Arial"}, "PDF file", PrintPath::Menu);
     print->Refresh();
     auto* entire = print->findChild<QAbstractButton*>("Option1(1)");
     ASSERT_TRUE(entire);
@@ -160,6 +160,15 @@ TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
           "PTI EXCEPTION SUMMARY", "Page 1 of 8", "Page 8 of 8", "Riverside Commons"}) {
         EXPECT_NE(text.find(expected), std::string::npos) << expected;
     }
+    EXPECT_FALSE(a.program.print.busyPointer);
+
+    // A PDF that cannot be written is a printing failure under the title of the menu's path.
+    PrintCommand(a.program, {"Arial"}, "PDF file", PrintPath::Menu);
+    const auto nowhere = a.scratch.path() / "no such folder" / "report.pdf";
+    EXPECT_FALSE(print->SaveAsPdf(QString::fromStdString(nowhere.string())));
+    ASSERT_FALSE(a.shell.dialogs.messages.empty());
+    EXPECT_EQ(a.shell.dialogs.messages.back().title, "Critical Error");
+    EXPECT_EQ(a.shell.dialogs.messages.back().text, "Path not found");
     EXPECT_FALSE(a.program.print.busyPointer);
 
     // The selected range with only the uniform pages ticked cannot be: they are disabled for

@@ -73,7 +73,7 @@ TEST(PrintDialog, DefaultAndSelectedRangesCountOnlyPagesTheProjectHas) {
 TEST(PrintDialog, RangesEnableTheBoxesOfThePagesTheProjectHas) {
     PrintDialog dialog = LoadPrintDialog();
     const DesignRecord lineLoadOnly = Project(0, 0, 0, 1);
-    OpenPrintDialog(dialog, lineLoadOnly, {"Arial", "Courier New"}, "PDF");
+    OpenPrintDialog(dialog, lineLoadOnly, {"Arial", "Courier New"}, "PDF", PrintPath::Menu);
     EXPECT_TRUE(dialog.visible);
     EXPECT_EQ(dialog.form["lblCurrentPrinter"].caption, "PDF");
     EXPECT_EQ(dialog.form["cbbReportFont"].text, "Arial");
@@ -125,7 +125,7 @@ TEST(PrintDialog, DefaultReportWithNothingToPrintWarnsAndStaysOpen) {
     FixedClock clock("November 23, 2026");
     for (const auto& c : cases) {
         PrintDialog dialog = LoadPrintDialog();
-        OpenPrintDialog(dialog, record, {}, "PDF");
+        OpenPrintDialog(dialog, record, {}, "PDF", PrintPath::Menu);
         RecordingDialogs dialogs;
         EXPECT_FALSE(PressPrint(dialog, record, c.flags, dialogs, clock));
         ASSERT_EQ(dialogs.messages.size(), 1u);

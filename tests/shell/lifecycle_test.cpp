@@ -375,12 +375,22 @@ TEST(ProjectLifecycle, PrintingNeedsResultsAndReadsTheDefaultReportFromTheOption
     LifecycleFixture f;
     Program& p = f.program;
     OpenRecentProject(p, f.services, f.Example("compressible_edge_down"));
-    PrintCommand(p, {"Arial"}, "PDF");
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Menu);
     EXPECT_FALSE(p.print.visible);
 
+    // A printing failure is told under the title of the command that opened the dialog.
     ASSERT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
-    PrintCommand(p, {"Arial"}, "PDF");
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Toolbar);
     EXPECT_TRUE(p.print.visible);
+    EXPECT_EQ(PrinterErrorMessage(76, "Path not found", p.print.openedFrom).title,
+              "Printing Critical Error");
+    EndPrinting(p.print);
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Menu);
+    EXPECT_TRUE(p.print.visible);
+    const MessageRequest failure = PrinterErrorMessage(76, "Path not found", p.print.openedFrom);
+    EXPECT_EQ(failure.title, "Critical Error");
+    EXPECT_EQ(failure.text, "Path not found");
+    EXPECT_EQ(failure.icon, MessageIcon::Critical);
 
     // A fresh store's default report holds every page: on compressible soil with edge down and
     // neither uniform foundation nor line load, 8 sheets.
@@ -396,7 +406,7 @@ TEST(ProjectLifecycle, PrintingNeedsResultsAndReadsTheDefaultReportFromTheOption
         p.options.form[ArrayName("chkDR", i)].checked = i == 9;
     }
     ASSERT_TRUE(OptionsOK(p, f.services, {f.scratch.path(), "korvath3"}));
-    PrintCommand(p, {"Arial"}, "PDF");
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Menu);
     EXPECT_FALSE(PrintButton(p, f.services));
     EXPECT_EQ(f.dialogs.messages.back().title, "Print Warning");
     EXPECT_TRUE(p.print.visible);
