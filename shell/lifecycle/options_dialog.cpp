@@ -172,7 +172,9 @@ bool OptionsOK(Program& program, ShellServices& services, const AssociationTarge
     if (form["cbAssociate"].checked) {
         WriteAssociation(services, association);
     }
+    // With every flag cleared nothing is left for Apply: it comes back with the next change.
     dialog.TabChanged.fill(false);
+    dialog.applyEnabled = false;
     dialog.visible = false;
     return true;
 }

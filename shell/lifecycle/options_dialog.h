@@ -52,7 +52,8 @@ int OptionsTabOfControl(const std::string& control);
 // OK: clears the recent files when asked; restores the factory defaults when asked, ignoring
 // every other edit; otherwise the blank check of every tab (a blank keeps the dialog open on its
 // field) and every tab saved. Then the file dialogs start in `FilePath`, the association is
-// written when asked, the flags are cleared and the dialog hidden. Gives whether it closed.
+// written when asked, the flags are cleared, Apply withdrawn and the dialog hidden. Gives
+// whether it closed.
 //
 // A value that cannot be stored throws RunTimeError, as SaveOptionValues does.
 bool OptionsOK(Program& program, ShellServices& services, const AssociationTarget& association);

@@ -32,6 +32,7 @@ TEST(OptionsDialog, OkWithRestoreIgnoresEveryOtherEdit) {
     EXPECT_TRUE(OptionsOK(p, f.services, Association(f)));
     EXPECT_FALSE(p.options.visible);
     EXPECT_EQ(p.options.TabChanged, (std::array<bool, OptionsTabCount>{}));
+    EXPECT_FALSE(p.options.applyEnabled);   // no tab is left flagged to enable it
     EXPECT_EQ(p.settings.defaults.UW, 150); // the factory's, not the edit's
     EXPECT_EQ(p.settings.defaults.TendArea, 0.153);
     EXPECT_EQ(f.section("DefMatProp").at("UW"), "150");
