@@ -25,9 +25,6 @@ namespace {
 // Twips of a pixel on the 96 dots to the inch the screen positions are kept in.
 constexpr int TwipsPerPixel = 15;
 
-const char* const NewKinds[] = {"New Expansive Soil Project", "New Compressible Soil Project",
-                                "New Line Load Project"};
-
 } // namespace
 
 MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTarget association)
@@ -177,10 +174,11 @@ void MainWindow::BuildToolbar() {
     };
     QToolButton* newButton = button("New", 1, QStyle::SP_FileIcon);
     auto* kinds = new QMenu(newButton);
-    for (int kind = 0; kind < 3; ++kind) {
-        QAction* item = kinds->addAction(NewKinds[kind]);
+    for (const ProjectKind kind :
+         {ProjectKind::Expansive, ProjectKind::Compressible, ProjectKind::LineLoad}) {
+        QAction* item = kinds->addAction(QString::fromStdString(NewKindCaption(kind)));
         connect(item, &QAction::triggered, this, [this, kind] {
-            ChooseNewKind(m_program, m_services, static_cast<ProjectKind>(kind));
+            ChooseNewKind(m_program, m_services, kind);
             Refresh();
         });
     }

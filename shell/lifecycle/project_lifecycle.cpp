@@ -158,16 +158,18 @@ bool SaveToNewPath(Program& program, ShellServices& services, const std::string&
 }
 
 ProjectKind KindOfToolTip(const std::string& toolTip) {
-    if (toolTip == "New Compressible Soil Project") {
-        return ProjectKind::Compressible;
-    }
-    if (toolTip == "New Line Load Project") {
-        return ProjectKind::LineLoad;
+    for (const ProjectKind kind :
+         {ProjectKind::Expansive, ProjectKind::Compressible, ProjectKind::LineLoad}) {
+        if (toolTip == NewKindCaption(kind)) {
+            return kind;
+        }
     }
     return ProjectKind::Expansive;
 }
 
-std::string ToolTipOfKind(ProjectKind kind) {
+} // namespace
+
+std::string NewKindCaption(ProjectKind kind) {
     switch (kind) {
     case ProjectKind::Compressible:
         return "New Compressible Soil Project";
@@ -178,8 +180,6 @@ std::string ToolTipOfKind(ProjectKind kind) {
     }
     return "New Expansive Soil Project";
 }
-
-} // namespace
 
 std::string MainCaption(const ProjectState& project) {
     std::string caption = ProductCaption;
@@ -271,7 +271,7 @@ void NewProjectCommand(Program& program, ShellServices& services, ProjectKind ki
 }
 
 void ChooseNewKind(Program& program, ShellServices& services, ProjectKind kind) {
-    program.project.newToolTip = ToolTipOfKind(kind);
+    program.project.newToolTip = NewKindCaption(kind);
     NewProjectCommand(program, services, kind);
 }
 

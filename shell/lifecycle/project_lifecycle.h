@@ -33,6 +33,8 @@ void NewProjectReset(Program& program, ShellServices& services, ProjectKind kind
 // The New menu items and the toolbar: the prompt, then the new project. Choosing a kind in the
 // toolbar's list makes it the button's tooltip; a click on the button starts that kind again.
 void NewProjectCommand(Program& program, ShellServices& services, ProjectKind kind);
+// The item of the toolbar's list for a kind, which is also the button's tooltip once chosen.
+std::string NewKindCaption(ProjectKind kind);
 void ChooseNewKind(Program& program, ShellServices& services, ProjectKind kind);
 void ClickNewButton(Program& program, ShellServices& services);
 

@@ -286,6 +286,9 @@ TEST(ProjectLifecycle, NewButtonRemembersTheKindChosenInItsList) {
     LifecycleFixture f;
     Program& p = f.program;
     EXPECT_EQ(p.project.newToolTip, "New Expansive Soil Project");
+    EXPECT_EQ(NewKindCaption(ProjectKind::Expansive), "New Expansive Soil Project");
+    EXPECT_EQ(NewKindCaption(ProjectKind::Compressible), "New Compressible Soil Project");
+    EXPECT_EQ(NewKindCaption(ProjectKind::LineLoad), "New Line Load Project");
     ChooseNewKind(p, f.services, ProjectKind::Compressible);
     EXPECT_EQ(p.project.newToolTip, "New Compressible Soil Project");
     NewProjectReset(p, f.services, ProjectKind::Expansive);
@@ -299,6 +302,27 @@ TEST(ProjectLifecycle, NewButtonRemembersTheKindChosenInItsList) {
     LineLoadMenuItem(p);
     EXPECT_EQ(p.project.ProjectChanged, 1);
     EXPECT_EQ(p.input.form["txtProjName"].text, "changed");
+    EXPECT_TRUE(f.dialogs.messages.empty());
+
+    // The button asks first; Cancel keeps the project as it is.
+    f.dialogs.replies = {Answer::Cancel};
+    ClickNewButton(p, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Question);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Save?");
+    EXPECT_EQ(f.dialogs.messages[0].text, "File has changed?  Save before opening new project?");
+    EXPECT_EQ(p.input.form["txtProjName"].text, "changed");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - Untitled*");
+
+    // The line load kind chosen in the list, then repeated by the button, ticks the line load.
+    f.dialogs.replies = {Answer::No};
+    ChooseNewKind(p, f.services, ProjectKind::LineLoad);
+    EXPECT_EQ(p.project.newToolTip, "New Line Load Project");
+    p.input.form["cbLineLoadType"].checked = false;
+    ClickNewButton(p, f.services);
+    EXPECT_TRUE(p.input.form["cbLineLoadType"].checked);
+    EXPECT_EQ(p.record.SoilType, 0);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - Untitled");
 }
 
 TEST(ProjectLifecycle, AnalysisStopsAtInputFaultsAndEndsTheProgramAtAnEngineFault) {
