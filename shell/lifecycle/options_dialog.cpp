@@ -151,6 +151,27 @@ void ChangeOptionsControl(OptionsDialog& dialog, int tab) {
     dialog.applyEnabled = true;
 }
 
+void ChangeOptionsText(OptionsDialog& dialog, const std::string& box, const std::string& text) {
+    dialog.form[box].text = text;
+    ChangeOptionsControl(dialog, OptionsTabOfControl(box));
+}
+
+void ChooseOptionsListItem(OptionsDialog& dialog, const std::string& list, int index) {
+    Control& control = dialog.form[list];
+    if (index < 0 || index >= static_cast<int>(control.items.size())) {
+        return;
+    }
+    control.selectedIndex = index;
+    control.text = control.items[static_cast<std::size_t>(index)];
+    ChangeOptionsControl(dialog, OptionsTabOfControl(list));
+}
+
+void ChooseDefaultFolder(OptionsDialog& dialog, const std::string& folder) {
+    dialog.form["dlbDefFilePath"].text = folder;
+    dialog.form["lblDefFilePath"].caption = folder;
+    ChangeOptionsControl(dialog, ProgramTab);
+}
+
 bool OptionsOK(Program& program, ShellServices& services, const AssociationTarget& association) {
     OptionsDialog& dialog = program.options;
     FormModel& form = dialog.form;

@@ -175,3 +175,38 @@ TEST(OptionsDialog, ApplyWithRestoreShowsTheFactoryValuesWithTheirFieldsSwitched
     EXPECT_TRUE(form["txtSMin"].enabled); // BeamSpacing 0: by minimum and maximum
     EXPECT_EQ(form["txtSMin"].text, "0");
 }
+
+TEST(OptionsDialog, TextsListsAndTheFolderFlagTheirTabsAndReachTheStoreAtOk) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    ShowOptionsDialog(p, f.services, 7);
+    FormModel& form = p.options.form;
+    EXPECT_FALSE(p.options.applyEnabled);
+
+    ClickOptionsControl(p.options, p.settings, "cbLineLoadType");
+    ChooseOptionsListItem(p.options, "cboDirLineLoad", 1);
+    EXPECT_EQ(form["cboDirLineLoad"].text, "Short Direction");
+    EXPECT_EQ(form["cboDirLineLoad"].selectedIndex, 1);
+    ChooseOptionsListItem(p.options, "cboDirLineLoad", 2); // no such item
+    EXPECT_EQ(form["cboDirLineLoad"].text, "Short Direction");
+
+    ChangeOptionsText(p.options, "txtSGFC", "1");
+    EXPECT_EQ(form["txtSGFC"].text, "1");
+    const std::string folder = f.scratch.path().string();
+    ChooseDefaultFolder(p.options, folder);
+    EXPECT_EQ(form["lblDefFilePath"].caption, folder);
+    EXPECT_EQ(p.options.TabChanged, (std::array<bool, OptionsTabCount>{true, false, false, false,
+                                                                       false, false, true, true}));
+    EXPECT_TRUE(p.options.applyEnabled);
+
+    ASSERT_TRUE(OptionsOK(p, f.services, Association(f)));
+    EXPECT_EQ(p.settings.FilePath, folder);
+    EXPECT_EQ(f.section("Program Data").at("FilePath"), folder);
+    EXPECT_EQ(p.project.dialogFolder, folder);
+    EXPECT_EQ(p.input.dialogFolder, folder);
+    EXPECT_EQ(p.settings.defaults.SGFC, 1);
+    EXPECT_EQ(f.section("DefLDPProp").at("SGFC"), "1");
+    EXPECT_EQ(f.section("DefLineLoad").at("LineLoadType"), "1");
+    EXPECT_EQ(f.section("DefLineLoad").at("DirLineLoad"), "Short Direction");
+    EXPECT_EQ(p.settings.defaults.DirLineLoad, "Short Direction");
+}
