@@ -45,6 +45,16 @@ void ChoosePrintRange(PrintDialog& dialog, const DesignRecord& record, PrintRang
 
 PrintRange ChosenRange(const PrintDialog& dialog);
 
+// A click on a range `Option1(0..2)`, which chooses it, or on a page box `Check1(0..9)`, which
+// ticks or clears it; a disabled box cannot be set.
+void ClickPrintControl(PrintDialog& dialog, const DesignRecord& record, const std::string& control);
+
+// The user chose item `index` of the report font list; an index outside the list changes nothing.
+void ChooseReportFont(PrintDialog& dialog, int index);
+
+// The printer's name under "Current Printer :", at opening and after "Setup ...".
+void ShowPrinterName(PrintDialog& dialog, const std::string& printerName);
+
 // The sheets a range prints. The default report counts the pages of `defaultPages` the project
 // has; the selected pages those whose box is ticked.
 std::int16_t RangeSheetCount(PrintRange range, const DesignRecord& record,

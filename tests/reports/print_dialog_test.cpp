@@ -81,13 +81,29 @@ TEST(PrintDialog, RangesEnableTheBoxesOfThePagesTheProjectHas) {
         EXPECT_FALSE(dialog.form[ArrayName("Check1", page)].enabled) << page;
     }
 
-    ChoosePrintRange(dialog, lineLoadOnly, PrintRange::Selected);
+    ClickPrintControl(dialog, lineLoadOnly, "Option1(2)");
+    EXPECT_EQ(ChosenRange(dialog), PrintRange::Selected);
     for (int page = 0; page < ReportPageCount; ++page) {
         const bool uniform = page >= 4 && page <= 6;
         EXPECT_EQ(dialog.form[ArrayName("Check1", page)].enabled, !uniform) << page;
     }
-    dialog.form["Check1(9)"].checked = true;
-    dialog.form["Check1(0)"].checked = true;
+    // A click ticks an enabled box and clears it again; a disabled box cannot be set.
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(9)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(0)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(3)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(3)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(5)");
+    EXPECT_EQ(TickedPages(dialog),
+              (Ticks{true, false, false, false, false, false, false, false, false, true}));
+    // Design summary 1 and line load 1.
+    EXPECT_EQ(RangeSheetCount(PrintRange::Selected, lineLoadOnly, {}, TickedPages(dialog)), 2);
+
+    // The font chosen in the list is the report's; an item beyond the list changes nothing.
+    ChooseReportFont(dialog, 1);
+    ChooseReportFont(dialog, 2);
+    EXPECT_EQ(dialog.form["cbbReportFont"].text, "Courier New");
+    ShowPrinterName(dialog, "Office Laser");
+    EXPECT_EQ(dialog.form["lblCurrentPrinter"].caption, "Office Laser");
 
     // Without the line load its box is cleared; the default report clears and disables all.
     ChoosePrintRange(dialog, Project(0, 0, 1, 0), PrintRange::Selected);
