@@ -216,16 +216,16 @@ void MainWindow::BuildToolbar() {
 }
 
 void MainWindow::Place() {
+    // The input pages need a larger window than the classic 11962 by 8500 twips; the place is
+    // the lifecycle's, for the size the window has.
     const QRect screen = this->screen()->availableGeometry();
-    const WindowPlace place = LoadMainWindow(m_program, m_services, screen.width() * TwipsPerPixel,
-                                             screen.height() * TwipsPerPixel);
     const QSize size(std::min(1240, screen.width()), std::min(780, screen.height()));
     resize(size);
-    const int left = std::clamp(static_cast<int>(place.left / TwipsPerPixel), 0,
-                                std::max(0, screen.width() - size.width()));
-    const int top = std::clamp(static_cast<int>(place.top / TwipsPerPixel), 0,
-                               std::max(0, screen.height() - size.height()));
-    move(screen.left() + left, screen.top() + top);
+    const WindowPlace place = LoadMainWindow(
+        m_program, m_services, screen.width() * TwipsPerPixel, screen.height() * TwipsPerPixel,
+        size.width() * TwipsPerPixel, size.height() * TwipsPerPixel);
+    move(screen.left() + static_cast<int>(place.left / TwipsPerPixel),
+         screen.top() + static_cast<int>(place.top / TwipsPerPixel));
 }
 
 void MainWindow::Refresh() {

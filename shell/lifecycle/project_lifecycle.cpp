@@ -191,7 +191,7 @@ std::string MainCaption(const ProjectState& project) {
 }
 
 WindowPlace LoadMainWindow(Program& program, ShellServices& services, double screenWidth,
-                           double screenHeight) {
+                           double screenHeight, double windowWidth, double windowHeight) {
     (void)services;
     ProjectState& project = program.project;
     project = ProjectState{};
@@ -200,7 +200,7 @@ WindowPlace LoadMainWindow(Program& program, ShellServices& services, double scr
     project.caption = ProductCaption;
     program.input.visible = false;
     program.output.visible = false;
-    return PlaceMainWindow(program.settings, screenWidth, screenHeight);
+    return PlaceMainWindow(program.settings, screenWidth, screenHeight, windowWidth, windowHeight);
 }
 
 Answer SaveCurrentFile(Program& program, ShellServices& services, const std::string& prompt) {

@@ -18,9 +18,11 @@ inline constexpr const char* OpenPrompt = "Save before opening project?";
 inline constexpr const char* ExitPrompt = "Save before Exit?";
 
 // The main window as it loads: the file dialogs in `FilePath`, the product caption, the commands
-// that need a project disabled, and its place on a screen of that size in twips.
+// that need a project disabled, and its place on a screen of that size in twips, for a window of
+// the given size.
 WindowPlace LoadMainWindow(Program& program, ShellServices& services, double screenWidth,
-                           double screenHeight);
+                           double screenHeight, double windowWidth = MainWindowWidth,
+                           double windowHeight = MainWindowHeight);
 
 // Asks about unsaved changes, only when there are any: Yes saves (after the blank check, which
 // turns Yes into Cancel when it finds a blank field; a project never saved goes through the save

@@ -389,6 +389,18 @@ TEST(ProjectLifecycle, WindowPlacementKeepsAPlaceOnTheScreenAndTheEndWritesIt) {
     EXPECT_EQ(s.StartX, "3619");
     EXPECT_EQ(place.top, 900);
 
+    // A window drawn larger than the classic size is centred for its own size: 1240 by 780
+    // pixels of 15 twips on a screen of 1920 by 1080.
+    s.StartX.clear(), s.StartY.clear();
+    place = LoadMainWindow(f.program, f.services, 28800, 16200, 18600, 11700);
+    EXPECT_EQ(place.left, (28800 - 18600) / 2.0);
+    EXPECT_EQ(place.top, (16200 - 11700) / 2.0);
+    EXPECT_EQ(s.StartX, "5100");
+    EXPECT_EQ(s.StartY, "2250");
+    // A kept place stands as it is, even where the window reaches past the screen's edge.
+    s.StartX = "19000";
+    EXPECT_EQ(LoadMainWindow(f.program, f.services, 19200, 10800, 18600, 11700).left, 19000);
+
     ModifyRecentFiles(s, "/lot.kvt");
     EndProgram(f.program, f.services, "1200", "800");
     EXPECT_EQ(f.section("Program Data").at("StartX"), "1200");
