@@ -279,9 +279,6 @@ void MainWindow::RunAnalysis() {
 }
 
 void MainWindow::OpenPrintDialog(PrintPath path) {
-    if (!m_program.project.printEnabled) {
-        return;
-    }
     m_print->Open(path);
     Refresh();
 }

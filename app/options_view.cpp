@@ -73,10 +73,9 @@ OptionsView::OptionsView(Program& program, ShellServices& services, AssociationT
         OptionsApply(m_program, m_services, m_association);
         Refresh();
     });
-    connect(cancel, &QPushButton::clicked, this, [this] {
-        OptionsCancel(m_program.options);
-        reject();
-    });
+    // Cancel, Escape and the window's close button all end in reject.
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &QDialog::rejected, this, [this] { OptionsCancel(m_program.options); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs, 1);

@@ -133,6 +133,9 @@ void PrintView::Open(PrintPath path) {
         fonts.push_back(family.toStdString());
     }
     PrintCommand(m_program, fonts, PrinterName(m_printer).toStdString(), path);
+    if (!m_program.print.visible) {
+        return; // no results to print
+    }
     Refresh();
     exec();
     EndPrinting(m_program.print);

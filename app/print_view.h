@@ -17,7 +17,8 @@ class PrintView : public QDialog {
     PrintView(Program& program, ShellServices& services, std::function<void()> changeDefaults,
               QWidget* parent = nullptr);
 
-    // `mnuPrint` or the toolbar's Print: the dialog filled for the project and shown modally.
+    // `mnuPrint` or the toolbar's Print: the dialog filled for the project and shown modally,
+    // when the print command opens it.
     void Open(PrintPath path);
     void Refresh();
 

@@ -17,6 +17,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTimer>
 #include <cstdio>
 #include <gtest/gtest.h>
 
@@ -178,4 +179,30 @@ TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
     EXPECT_FALSE(print->SaveAsPdf(QString::fromStdString((a.scratch.path() / "no.pdf").string())));
     EXPECT_EQ(a.shell.dialogs.messages.back().title, "Print Warning");
     EXPECT_FALSE(std::filesystem::exists(a.scratch.path() / "no.pdf"));
+}
+
+TEST(PrintWindow, WithoutResultsThePrintCommandShowsNoDialog) {
+    ScratchFolder scratch;
+    ShellFixture shell;
+    Program program;
+    MainWindow window{program, shell.services, {scratch.path() / "share", "korvath3"}};
+    LoadSettings(shell.services, program.settings);
+    window.Place();
+    window.Refresh();
+    NewProjectReset(program, shell.services, ProjectKind::Expansive);
+    window.Refresh();
+    ASSERT_FALSE(program.project.printEnabled);
+
+    // Should the dialog come up, it is closed again at once, so that the test cannot hang.
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        if (window.printView()->isVisible()) {
+            shown = true;
+            window.printView()->reject();
+        }
+    });
+    window.printView()->Open(PrintPath::Toolbar);
+    QApplication::processEvents();
+    EXPECT_FALSE(shown);
+    EXPECT_FALSE(program.print.visible);
 }
