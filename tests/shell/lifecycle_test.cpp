@@ -226,6 +226,28 @@ TEST(ProjectLifecycle, YesOnAProjectNeverSavedGoesThroughTheSaveDialog) {
     EXPECT_NE(FileBytes(path).find("Lot 16"), std::string::npos);
 }
 
+TEST(ProjectLifecycle, ANewProjectAfterAFileWithoutDataHasItsDataSaved) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    // A file whose data flag says it holds nothing: it loads nothing and saves as two lines.
+    const std::string empty = f.Path("empty.kvt");
+    WriteBytes(empty, Lines({"Korvath 3.0", " 1 "}));
+    OpenRecentProject(p, f.services, empty);
+    EXPECT_EQ(p.record.NoDataFlag, 1);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - empty.kvt");
+
+    // A new project clears the flag, so that its input reaches the record and the file.
+    NewProjectReset(p, f.services, ProjectKind::Expansive);
+    EXPECT_EQ(p.record.NoDataFlag, 0);
+    Type(f, "txtProjName", "Lot 18");
+    const std::string path = f.Path("lot18.kvt");
+    f.dialogs.answers = {path};
+    SaveAsCommand(p, f.services);
+    EXPECT_EQ(p.record.ProjName, "Lot 18");
+    const std::string bytes = FileBytes(path);
+    EXPECT_EQ(bytes.rfind("Korvath 3.0\r\n 0 \r\nLot 18\r\n", 0), 0u) << bytes;
+}
+
 TEST(ProjectLifecycle, AFailedOpenHidesTheInputAndSaysWhy) {
     LifecycleFixture f;
     Program& p = f.program;
