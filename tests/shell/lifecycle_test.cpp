@@ -63,13 +63,21 @@ TEST(ProjectLifecycle, TheStateTableFromStartToAnalysisAndBack) {
     EXPECT_EQ(p.record.SoilType, 1);
     EXPECT_EQ(project.ProjectChanged, 0);
 
-    // Opening an example: saved, not yet analysed.
+    // Opening an example from page 5: saved, not yet analysed, shown on page 1.
+    InputContext context = InputContextOf(p, f.services);
+    SelectPage(p.input, context, 5);
+    EXPECT_NE(p.input.form["tlbInput(1)"].toolTip, "Open Project Information File");
     const std::string path = f.Example("uniform_line_load");
     OpenRecentProject(p, f.services, path);
     EXPECT_EQ(project.caption, "Korvath 3.0 - uniform_line_load.kvt");
     EXPECT_EQ(Commands(project), "+save +button4 +saveAs +input +analysis -output -print ");
     EXPECT_EQ(p.input.form["txtProjName"].text, "Hilltop Storage Warehouse");
     EXPECT_EQ(p.settings.RecentFiles[0], path);
+    EXPECT_EQ(p.project.dialogFolder, f.scratch.path().string());
+    EXPECT_EQ(p.input.dialogFolder, f.scratch.path().string());
+    EXPECT_EQ(p.input.CurrentInputTab, 1);
+    EXPECT_EQ(p.input.form["tlbInput(1)"].toolTip, "Open Project Information File");
+    EXPECT_EQ(p.input.form["tlbInput(2)"].toolTip, "Save Project Information File");
 
     // Analysed: the results replace the input, four main tabs for its uniform foundation and
     // line load.
@@ -127,6 +135,7 @@ TEST(ProjectLifecycle, AVersionTwoFileIsAnnouncedAndLeftChanged) {
     OpenCommand(f.program, f.services);
     ASSERT_EQ(f.dialogs.messages.size(), 1u);
     EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Opening Korvath Win 2.x file");
     EXPECT_EQ(f.program.project.caption, "Korvath 3.0 - old.kvt*");
     EXPECT_EQ(f.program.project.ProjectChanged, 1);
     EXPECT_TRUE(f.program.project.saveAsEnabled);
@@ -223,6 +232,10 @@ TEST(ProjectLifecycle, YesOnAProjectNeverSavedGoesThroughTheSaveDialog) {
     EXPECT_TRUE(p.project.saveEnabled);
     EXPECT_EQ(p.settings.RecentFiles[0], path);
     EXPECT_EQ(f.dialogs.fileDialogs.back().title, "Save Project As ...");
+    EXPECT_EQ(f.dialogs.fileDialogs.back().filter, "Projects (*.kvt)|*.kvt");
+    EXPECT_EQ(p.project.ProjectChanged, 0);
+    EXPECT_EQ(p.project.dialogFolder, f.scratch.path().string());
+    EXPECT_EQ(p.input.dialogFolder, f.scratch.path().string());
     EXPECT_NE(FileBytes(path).find("Lot 16"), std::string::npos);
 }
 
