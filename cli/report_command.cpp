@@ -127,6 +127,16 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
             out << document.dump(2) << '\n';
         }
         return ExitEngineFault;
+    } catch (const ResultsValueFault& fault) {
+        err << "korvath3-cli: the analysis of " << options.project.string()
+            << " ended in a fault: " << FaultKindName(fault.kind) << ResultsValueFaultPlace
+            << ". No report is written.\n";
+        if (options.json) {
+            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
+            document["fault"] = FaultJson(fault.kind, std::nullopt);
+            out << document.dump(2) << '\n';
+        }
+        return ExitEngineFault;
     }
 
     PrintDialog dialog = LoadPrintDialog();

@@ -107,6 +107,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         pass = FillResults(screen, record, results, settings);
     } catch (const ArithmeticFault&) {
         return 0;
+    } catch (const ResultsValueFault&) {
+        return 0; // a value too large to show ends the analysis as a fault
     }
     PrintJob job;
     job.pages = RangePages(PrintRange::Entire, record, {}, {});

@@ -303,9 +303,9 @@ void FillAnalysisPageNotes(FormModel& form, const ResultsRecord& r,
     for (int copy = 0; copy < AllowableCopies; ++copy) {
         // The line load page gives its allowables with their unit.
         const std::string unit = copy == LineLoadCopy ? " KSI" : "";
-        SetLabel(form, ArrayName("lblFT", copy), FormatNumber(r.AllowTension, "#,##0.000") + unit);
+        SetLabel(form, ArrayName("lblFT", copy), ShownNumber(r.AllowTension, "#,##0.000") + unit);
         SetLabel(form, ArrayName("lblFc", copy),
-                 FormatNumber(r.AllowCompression / 1000, "#,##0.000") + unit);
+                 ShownNumber(r.AllowCompression / 1000, "#,##0.000") + unit);
         ShowLabel(form, ArrayName("lblUseBeta", copy), settings.UseBeta == 1);
     }
     ShowLabel(form, "lblEm5RuleS", r.Em5ControlShort != 0);

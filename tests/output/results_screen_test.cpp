@@ -396,3 +396,35 @@ TEST(ResultsScreenLayout, EveryRowPlacesControlsOfTheScreenAndEveryValueIsPlaced
     EXPECT_EQ(Text(screen, "lblRPELabel"), ExceptionsHeading);
     EXPECT_EQ(Text(screen, "lblUTFPELabel"), ExceptionsHeading);
 }
+
+// A force at the largest number a double holds gives a prestress past it: the screen stops as
+// the analysis does at an overflow, rather than show "Infinity"; a section without area (no
+// number at all) is an invalid argument.
+TEST(FillResults, APrestressTooLargeToShowEndsLikeAFault) {
+    ResultsRecord r = CompliantResults();
+    r.ForceNetShort = 1.7976931348623157e308;
+    ResultsScreen screen = LoadResultsScreen();
+    try {
+        FillResults(screen, SummaryRecord(), r, {});
+        ADD_FAILURE() << "no fault";
+    } catch (const ResultsValueFault& fault) {
+        EXPECT_EQ(fault.kind, FaultKind::Overflow);
+    }
+
+    r = CompliantResults();
+    r.AreaLong = 0; // and no force: nought over nought
+    try {
+        FillResults(screen, SummaryRecord(), r, {});
+        ADD_FAILURE() << "no fault";
+    } catch (const ResultsValueFault& fault) {
+        EXPECT_EQ(fault.kind, FaultKind::InvalidArgument);
+    }
+
+    // Just short of it, the prestress is a number and is shown.
+    r = CompliantResults();
+    r.ForceNetShort = 1.7976931348623157e305;
+    r.AreaShort = 1000;
+    FillResults(screen, SummaryRecord(), r, {});
+    EXPECT_EQ(Text(screen, "lblEPBS").find("Infinity"), std::string::npos);
+    EXPECT_EQ(Text(screen, "lblEPBS").size(), 407u); // 306 digits and 101 commas
+}
