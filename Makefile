@@ -5,16 +5,21 @@
 #   make bench  time the analysis, the project files and the design search
 #   make screenshots  pictures of the desktop program's windows in build/screenshots/
 #   make fuzz   the libFuzzer targets in build-fuzz/ (make test runs each briefly)
+#   make install      install the programs, desktop entry, file type, icon and examples
+#                     (PREFIX=/usr/local, DESTDIR for a staging root)
+#   make package      the Debian package build/korvath3_3.0_amd64.deb
 
 PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
             nlohmann-json3-dev libcli11-dev qt6-base-dev fonts-liberation xvfb \
-            poppler-utils clang libclang-rt-14-dev
+            poppler-utils clang libclang-rt-14-dev dpkg-dev file desktop-file-utils appstream
 EXAMPLES := $(wildcard examples/*.kvt)
 CLI := build/bin/korvath3-cli
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] && echo "" || (command -v sudo >/dev/null && echo "sudo -n"))
 
-.PHONY: all deps configure build run test test-asan fuzz fuzz-smoke bench screenshots format clean
+.PHONY: all deps configure build run test test-asan fuzz fuzz-smoke bench screenshots format clean \
+        install package
+PREFIX ?= /usr/local
 FUZZERS := read_design_file_fuzzer:design_file page_file_fuzzer:page_file \
            design_run_fuzzer:design_run
 
@@ -96,6 +101,12 @@ screenshots: build
 	  QT_QPA_PLATFORM=offscreen build/bin/korvath3-screenshots "build/screenshots/$$name" "$$project" \
 	    2>/dev/null || exit $$?; \
 	done
+
+install: build
+	cmake --install build --prefix "$(PREFIX)"
+
+package: build
+	cd build && cpack -B "$(CURDIR)/build"
 
 format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -3,43 +3,53 @@
 #include "app/main_window.h"
 #include "app/qt_user_dialogs.h"
 #include "app/splash_screen.h"
-#include "common/run_time_error.h"
 #include "shell/file_association.h"
 #include "shell/lifecycle/project_lifecycle.h"
-#include "shell/load_settings.h"
+#include "shell/memory_settings_store.h"
 #include "shell/program_folder.h"
 #include "shell/qt/ini_settings_store.h"
+#include "shell/settings_at_start.h"
+#include "shell/settings_file_check.h"
 
 #include <QApplication>
-#include <QMessageBox>
+#include <QIcon>
 #include <QStringList>
 #include <iostream>
 #include <memory>
+#include <optional>
+#include <string>
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("Korvath 3.0");
-    QApplication::setApplicationVersion("3.0");
-    QStringList arguments = QApplication::arguments();
-    arguments.removeFirst();
-    if (arguments.size() == 1 && arguments.front() == "--version") {
+    // The version needs no window, nor a display to put one on.
+    if (argc == 2 && std::string(argv[1]) == "--version") {
         std::cout << "Korvath 3.0 (Build 100712)\n";
         return 0;
     }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Korvath 3.0");
+    QApplication::setApplicationVersion("3.0");
+    // The installed desktop entry and icon, where the desktop knows them.
+    QGuiApplication::setDesktopFileName("korvath3");
+    QApplication::setWindowIcon(QIcon::fromTheme("korvath3"));
+    QStringList arguments = QApplication::arguments();
+    arguments.removeFirst();
 
-    IniSettingsStore store(SettingsFilePath());
+    // A settings file that cannot serve is left as it is; the run keeps its settings in memory.
+    const std::filesystem::path settingsFile = SettingsFilePath();
+    const std::optional<std::string> settingsProblem = SettingsFileProblem(settingsFile);
+    MemorySettingsStore memoryStore;
+    std::unique_ptr<SettingsStore> fileStore;
+    if (!settingsProblem) {
+        fileStore = std::make_unique<IniSettingsStore>(settingsFile);
+    }
     QtUserDialogs dialogs;
     SystemClock clock;
-    ShellServices services{store, dialogs, clock, ProgramFolder().string()};
     Program program;
-    std::int16_t showSplash = 1;
-    try {
-        showSplash = LoadSettings(services, program.settings);
-    } catch (const RunTimeError& error) {
-        QMessageBox::critical(nullptr, "Korvath Critical Error" + QString::number(error.number()),
-                              "A critical error occurred initializing Korvath");
-        return 1;
-    }
+    const SettingsAtStart settings = StartSettings(
+        fileStore ? *fileStore : memoryStore, memoryStore, settingsProblem, settingsFile.string(),
+        dialogs, clock, ProgramFolder().string(), program.settings);
+    ShellServices services{*settings.store, dialogs, clock, ProgramFolder().string()};
+    const std::int16_t showSplash = settings.showSplash;
 
     MainWindow window(program, services,
                       {UserDataFolder(), std::filesystem::path(ProgramFolder()) / "korvath3"});

@@ -25,9 +25,6 @@ namespace {
 // Twips of a pixel on the 96 dots to the inch the screen positions are kept in.
 constexpr int TwipsPerPixel = 15;
 
-const char* const NewKinds[] = {"New Expansive Soil Project", "New Compressible Soil Project",
-                                "New Line Load Project"};
-
 } // namespace
 
 MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTarget association)
@@ -111,7 +108,7 @@ void MainWindow::BuildMenus() {
     });
     QAction* print = AddAction(file, "mnuPrint", "&Print ...");
     print->setShortcut(QKeySequence::Print);
-    connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(); });
+    connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(PrintPath::Menu); });
     QAction* recentSeparator = file->addSeparator();
     recentSeparator->setObjectName("mnuRUSeparator");
     m_actions["mnuRUSeparator"] = recentSeparator;
@@ -177,10 +174,11 @@ void MainWindow::BuildToolbar() {
     };
     QToolButton* newButton = button("New", 1, QStyle::SP_FileIcon);
     auto* kinds = new QMenu(newButton);
-    for (int kind = 0; kind < 3; ++kind) {
-        QAction* item = kinds->addAction(NewKinds[kind]);
+    for (const ProjectKind kind :
+         {ProjectKind::Expansive, ProjectKind::Compressible, ProjectKind::LineLoad}) {
+        QAction* item = kinds->addAction(QString::fromStdString(NewKindCaption(kind)));
         connect(item, &QAction::triggered, this, [this, kind] {
-            ChooseNewKind(m_program, m_services, static_cast<ProjectKind>(kind));
+            ChooseNewKind(m_program, m_services, kind);
             Refresh();
         });
     }
@@ -201,7 +199,7 @@ void MainWindow::BuildToolbar() {
     });
     toolbar->addSeparator();
     connect(button("Print", 6, QStyle::SP_FileDialogDetailedView), &QToolButton::clicked, this,
-            [this] { OpenPrintDialog(); });
+            [this] { OpenPrintDialog(PrintPath::Toolbar); });
     toolbar->addSeparator();
     connect(button("Input", 8, QStyle::SP_FileDialogContentsView), &QToolButton::clicked, this,
             [this] {
@@ -218,16 +216,16 @@ void MainWindow::BuildToolbar() {
 }
 
 void MainWindow::Place() {
+    // The input pages need a larger window than the classic 11962 by 8500 twips; the place is
+    // the lifecycle's, for the size the window has.
     const QRect screen = this->screen()->availableGeometry();
-    const WindowPlace place = LoadMainWindow(m_program, m_services, screen.width() * TwipsPerPixel,
-                                             screen.height() * TwipsPerPixel);
     const QSize size(std::min(1240, screen.width()), std::min(780, screen.height()));
     resize(size);
-    const int left = std::clamp(static_cast<int>(place.left / TwipsPerPixel), 0,
-                                std::max(0, screen.width() - size.width()));
-    const int top = std::clamp(static_cast<int>(place.top / TwipsPerPixel), 0,
-                               std::max(0, screen.height() - size.height()));
-    move(screen.left() + left, screen.top() + top);
+    const WindowPlace place = LoadMainWindow(
+        m_program, m_services, screen.width() * TwipsPerPixel, screen.height() * TwipsPerPixel,
+        size.width() * TwipsPerPixel, size.height() * TwipsPerPixel);
+    move(screen.left() + static_cast<int>(place.left / TwipsPerPixel),
+         screen.top() + static_cast<int>(place.top / TwipsPerPixel));
 }
 
 void MainWindow::Refresh() {
@@ -280,11 +278,8 @@ void MainWindow::RunAnalysis() {
     Refresh();
 }
 
-void MainWindow::OpenPrintDialog() {
-    if (!m_program.project.printEnabled) {
-        return;
-    }
-    m_print->Open();
+void MainWindow::OpenPrintDialog(PrintPath path) {
+    m_print->Open(path);
     Refresh();
 }
 

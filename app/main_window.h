@@ -47,7 +47,7 @@ class MainWindow : public QMainWindow {
     void BuildToolbar();
     QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
     void RunAnalysis();
-    void OpenPrintDialog();
+    void OpenPrintDialog(PrintPath path);
     void ShowAbout();
 
     Program& m_program;

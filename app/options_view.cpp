@@ -2,6 +2,7 @@
 
 #include "app/input_layout.h"
 #include "input/input_form.h"
+#include "reports/report_pages.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -12,23 +13,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
-
-namespace {
-
-const char* const ReportPageCaptions[] = {
-    "Ribbed Foundation - Design Summary",
-    "Ribbed Foundation - Design Compliance Summary",
-    "Ribbed Foundation - Results of Analysis",
-    "Ribbed Foundation - Selected Variables",
-    "Uniform Thickness Foundation - Design Summary",
-    "Uniform Thickness Foundation - Design Compliance Summary",
-    "Uniform Thickness Foundation - Results of Analysis",
-    "Summary of Input Data",
-    "PTI Exception Summary",
-    "Line Load Analysis",
-};
-
-} // namespace
 
 OptionsView::OptionsView(Program& program, ShellServices& services, AssociationTarget association,
                          QWidget* parent)
@@ -42,16 +26,12 @@ OptionsView::OptionsView(Program& program, ShellServices& services, AssociationT
         Refresh();
     };
     events.choose = [this](const std::string& list, int index) {
-        Control& control = m_program.options.form[list];
-        if (index >= 0 && index < static_cast<int>(control.items.size())) {
-            control.selectedIndex = index;
-            control.text = control.items[static_cast<std::size_t>(index)];
-        }
-        Changed(list);
+        ChooseOptionsListItem(m_program.options, list, index);
+        Refresh();
     };
     events.change = [this](const std::string& box, const std::string& text) {
-        m_program.options.form[box].text = text;
-        Changed(box);
+        ChangeOptionsText(m_program.options, box, text);
+        Refresh();
     };
     m_widgets = new FormWidgets(std::move(events));
     m_widgets->setParent(this);
@@ -93,10 +73,9 @@ OptionsView::OptionsView(Program& program, ShellServices& services, AssociationT
         OptionsApply(m_program, m_services, m_association);
         Refresh();
     });
-    connect(cancel, &QPushButton::clicked, this, [this] {
-        OptionsCancel(m_program.options);
-        reject();
-    });
+    // Cancel, Escape and the window's close button all end in reject.
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &QDialog::rejected, this, [this] { OptionsCancel(m_program.options); });
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs, 1);
@@ -124,15 +103,14 @@ QWidget* OptionsView::ProgramTab() {
     folderLine->addWidget(browse, 0, 1);
     folderLine->setColumnStretch(0, 1);
     connect(browse, &QPushButton::clicked, this, [this] {
-        FormModel& form = m_program.options.form;
+        const FormModel& form = m_program.options.form;
         const QString chosen = QFileDialog::getExistingDirectory(
             this, "Default Project Folder", QString::fromStdString(form["dlbDefFilePath"].text));
         if (chosen.isEmpty()) {
             return;
         }
-        form["dlbDefFilePath"].text = chosen.toStdString();
-        form["lblDefFilePath"].caption = chosen.toStdString();
-        Changed("dlbDefFilePath");
+        ChooseDefaultFolder(m_program.options, chosen.toStdString());
+        Refresh();
     });
     grid->addWidget(folder, 0, 0, 1, 2);
 
@@ -160,8 +138,9 @@ QWidget* OptionsView::ProgramTab() {
         printLines->addWidget(box);
     }
     printLines->addWidget(new QLabel("Default report pages :", printing));
-    for (int i = 0; i < 10; ++i) {
-        QWidget* box = make(ArrayName("chkDR", i), ReportPageCaptions[i]);
+    for (int i = 0; i < ReportPageCount; ++i) {
+        QWidget* box =
+            make(ArrayName("chkDR", i), ReportPages()[static_cast<std::size_t>(i)].caption);
         box->setParent(printing);
         printLines->addWidget(box);
     }
@@ -181,11 +160,6 @@ QWidget* OptionsView::ProgramTab() {
     grid->addWidget(actions, 2, 0);
     grid->setRowStretch(3, 1);
     return tab;
-}
-
-void OptionsView::Changed(const std::string& control) {
-    ChangeOptionsControl(m_program.options, OptionsTabOfControl(control));
-    Refresh();
 }
 
 void OptionsView::Open(int tab) {

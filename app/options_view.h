@@ -21,7 +21,6 @@ class OptionsView : public QDialog {
     void Refresh();
 
   private:
-    void Changed(const std::string& control);
     QWidget* ProgramTab();
 
     Program& m_program;

@@ -34,21 +34,11 @@ PrintView::PrintView(Program& program, ShellServices& services,
     setWindowTitle("Print");
     ControlEvents events;
     events.click = [this](const std::string& name) {
-        PrintDialog& dialog = m_program.print;
-        if (name.rfind("Option1", 0) == 0) {
-            const int range = std::stoi(name.substr(8));
-            ChoosePrintRange(dialog, m_program.record, static_cast<PrintRange>(range));
-        } else if (Control& box = dialog.form[name]; box.enabled) {
-            box.checked = !box.checked;
-        }
+        ClickPrintControl(m_program.print, m_program.record, name);
         Refresh();
     };
-    events.choose = [this](const std::string& list, int index) {
-        Control& fonts = m_program.print.form[list];
-        if (index >= 0 && index < static_cast<int>(fonts.items.size())) {
-            fonts.text = fonts.items[static_cast<std::size_t>(index)];
-            fonts.selectedIndex = index;
-        }
+    events.choose = [this](const std::string&, int index) {
+        ChooseReportFont(m_program.print, index);
     };
     m_widgets = new FormWidgets(std::move(events));
     m_widgets->setParent(this);
@@ -96,7 +86,7 @@ PrintView::PrintView(Program& program, ShellServices& services,
         QPrintDialog dialog(&m_printer, this);
         dialog.setWindowTitle("Print Setup");
         dialog.exec();
-        m_program.print.form["lblCurrentPrinter"].caption = PrinterName(m_printer).toStdString();
+        ShowPrinterName(m_program.print, PrinterName(m_printer).toStdString());
         Refresh();
     });
     connect(defaults, &QPushButton::clicked, this, [this] {
@@ -133,7 +123,7 @@ PrintView::PrintView(Program& program, ShellServices& services,
     layout->addLayout(body);
 }
 
-void PrintView::Open() {
+void PrintView::Open(PrintPath path) {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (!info.isNull()) {
         m_printer.setPrinterName(info.printerName());
@@ -142,7 +132,10 @@ void PrintView::Open() {
     for (const QString& family : QFontDatabase::families()) {
         fonts.push_back(family.toStdString());
     }
-    PrintCommand(m_program, fonts, PrinterName(m_printer).toStdString());
+    PrintCommand(m_program, fonts, PrinterName(m_printer).toStdString(), path);
+    if (!m_program.print.visible) {
+        return; // no results to print
+    }
     Refresh();
     exec();
     EndPrinting(m_program.print);
@@ -214,7 +207,7 @@ bool PrintView::SaveAsPdf(const QString& path) {
         EndPrinting(m_program.print);
         Refresh();
         m_services.dialogs.ShowMessage(
-            {MessageIcon::Critical, "Printing Critical Error", error.description()});
+            PrinterErrorMessage(error.number(), error.description(), m_program.print.openedFrom));
         return false;
     }
     EndPrinting(m_program.print);

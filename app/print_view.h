@@ -17,8 +17,9 @@ class PrintView : public QDialog {
     PrintView(Program& program, ShellServices& services, std::function<void()> changeDefaults,
               QWidget* parent = nullptr);
 
-    // `mnuPrint`: the dialog filled for the project and shown modally.
-    void Open();
+    // `mnuPrint` or the toolbar's Print: the dialog filled for the project and shown modally,
+    // when the print command opens it.
+    void Open(PrintPath path);
     void Refresh();
 
     // Draws the job of the range on the printer, in the preview or into a PDF at `path`.

@@ -92,7 +92,8 @@ int main(int argc, char** argv) {
     }
     if (program.project.printEnabled) {
         PrintView* print = window.printView();
-        PrintCommand(program, {"Arial", "Courier New", "Times New Roman"}, "PDF file");
+        PrintCommand(program, {"Arial", "Courier New", "Times New Roman"}, "PDF file",
+                     PrintPath::Menu);
         print->Refresh();
         print->show();
         QApplication::processEvents();

@@ -23,6 +23,7 @@ struct CheckFault {
     FaultKind kind;
     // An analysis stage, or nothing for the depth ratio of the design exceptions.
     std::optional<int> stage;
+    bool screenValue = false; // a value worked out for the screen, not the depth ratio
 };
 
 std::string FaultText(const CheckFault& fault) {
@@ -30,6 +31,8 @@ std::string FaultText(const CheckFault& fault) {
     if (fault.stage) {
         text += " in stage " + std::to_string(*fault.stage) + " (" +
                 AnalysisStageName(*fault.stage) + ")";
+    } else if (fault.screenValue) {
+        text += ResultsValueFaultPlace;
     } else {
         text += " in the beam depth ratio of the design exceptions: a direction has no beam "
                 "group with both a depth and a quantity";
@@ -62,6 +65,8 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
             pass = FillResults(screen, record, results, options.settings);
         } catch (const ArithmeticFault& exceptionsFault) {
             fault = CheckFault{exceptionsFault.kind, std::nullopt};
+        } catch (const ResultsValueFault& valueFault) {
+            fault = CheckFault{valueFault.kind, std::nullopt, true};
         }
     }
 

@@ -10,10 +10,11 @@
 #include "cli/results_command.h"
 #include "cli/stderr_dialogs.h"
 #include "cli/upgrade_command.h"
-#include "common/run_time_error.h"
-#include "shell/load_settings.h"
+#include "shell/memory_settings_store.h"
 #include "shell/program_folder.h"
 #include "shell/qt/ini_settings_store.h"
+#include "shell/settings_at_start.h"
+#include "shell/settings_file_check.h"
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
@@ -21,6 +22,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <thread>
 #include <unistd.h>
@@ -65,22 +67,21 @@ void AddRunOptions(CLI::App& command, std::filesystem::path& project, bool& json
 
 // Reads the settings store as the desktop program does at its start, so that both work from
 // the same options and default record. A value missing from the store is written with its
-// default.
-std::optional<ProgramSettings> LoadProgramSettings(CliError& failure) {
-    IniSettingsStore store(SettingsFilePath());
+// default. A settings file that cannot serve is left as it is: the run takes the factory
+// defaults and says so once on standard error.
+ProgramSettings LoadProgramSettings() {
+    const std::filesystem::path file = SettingsFilePath();
+    const std::optional<std::string> problem = SettingsFileProblem(file);
+    MemorySettingsStore memoryStore;
+    std::unique_ptr<SettingsStore> fileStore;
+    if (!problem) {
+        fileStore = std::make_unique<IniSettingsStore>(file);
+    }
     StreamDialogs dialogs(std::cerr);
     SystemClock clock;
-    ShellServices services{store, dialogs, clock, ProgramFolder().string()};
     ProgramSettings settings;
-    try {
-        LoadSettings(services, settings);
-    } catch (const RunTimeError& error) {
-        std::cerr << "korvath3-cli: Korvath Critical Error" << error.number()
-                  << ": A critical error occurred initializing Korvath (" << error.description()
-                  << " in " << SettingsFilePath().string() << ")\n";
-        failure = {error.number(), error.description(), SettingsFilePath().string()};
-        return std::nullopt;
-    }
+    StartSettings(fileStore ? *fileStore : memoryStore, memoryStore, problem, file.string(),
+                  dialogs, clock, ProgramFolder().string(), settings);
     return settings;
 }
 
@@ -267,31 +268,24 @@ int main(int argc, char** argv) {
         return status == 0 ? ExitAnalysed : ExitBadUsage;
     }
 
-    CliError settingsFailure;
-    const std::optional<ProgramSettings> settings = LoadProgramSettings(settingsFailure);
-    if (!settings) {
-        if (wantsJson) {
-            PrintJsonError(settingsFailure, std::cout);
-        }
-        return ExitFileError;
-    }
+    const ProgramSettings settings = LoadProgramSettings();
     if (*analyzeCommand) {
         analyze.check = !analyzeNoCheck;
-        analyze.settings = analyzeFlags.over(settings->options);
-        analyze.defaults = settings->defaults;
+        analyze.settings = analyzeFlags.over(settings.options);
+        analyze.defaults = settings.defaults;
         return RunAnalyzeCommand(analyze, std::cout, std::cerr);
     }
     if (*checkCommand) {
         check.check = !checkNoCheck;
-        check.settings = checkFlags.over(settings->options);
-        check.defaults = settings->defaults;
+        check.settings = checkFlags.over(settings.options);
+        check.defaults = settings.defaults;
         check.colour = ColourOnStandardOutput();
         return RunCheckCommand(check, std::cout, std::cerr);
     }
     if (*resultsCommand) {
         results.check = !resultsNoCheck;
-        results.settings = resultsFlags.over(settings->options);
-        results.defaults = settings->defaults;
+        results.settings = resultsFlags.over(settings.options);
+        results.defaults = settings.defaults;
         results.colour = ColourOnStandardOutput();
         return RunResultsCommand(results, std::cout, std::cerr);
     }
@@ -301,11 +295,11 @@ int main(int argc, char** argv) {
             return ExitBadUsage;
         }
         report.check = !reportNoCheck;
-        report.settings = reportFlags.over(settings->options);
-        report.defaults = settings->defaults;
-        report.defaultPages = settings->options.DefaultPages;
-        report.colour = reportColour.value_or(settings->options.PrintColor) == 1;
-        report.showAll = reportShowAll.value_or(settings->options.PrintAll) == 1;
+        report.settings = reportFlags.over(settings.options);
+        report.defaults = settings.defaults;
+        report.defaultPages = settings.options.DefaultPages;
+        report.colour = reportColour.value_or(settings.options.PrintColor) == 1;
+        report.showAll = reportShowAll.value_or(settings.options.PrintAll) == 1;
         report.range = reportRange == "entire"     ? PrintRange::Entire
                        : reportRange == "selected" ? PrintRange::Selected
                                                    : PrintRange::Default;
@@ -320,8 +314,8 @@ int main(int argc, char** argv) {
         return RunReportCommand(report, std::cout, std::cerr);
     }
     if (*optimizeCommand) {
-        optimize.settings = optimizeFlags.over(settings->options);
-        optimize.defaults = settings->defaults;
+        optimize.settings = optimizeFlags.over(settings.options);
+        optimize.defaults = settings.defaults;
         optimize.objective = objective == "tendons" ? SearchObjective::Tendons
                              : objective == "cost"  ? SearchObjective::Cost
                                                     : SearchObjective::Concrete;
@@ -332,7 +326,7 @@ int main(int argc, char** argv) {
         const ProjectKind kind = newKind == "compressible" ? ProjectKind::Compressible
                                  : newKind == "lineload"   ? ProjectKind::LineLoad
                                                            : ProjectKind::Expansive;
-        return RunNewCommand(kind, newOutput, settings->defaults, std::cerr);
+        return RunNewCommand(kind, newOutput, settings.defaults, std::cerr);
     }
-    return RunUpgradeCommand(upgradeInput, upgradeOutput, settings->defaults, std::cerr);
+    return RunUpgradeCommand(upgradeInput, upgradeOutput, settings.defaults, std::cerr);
 }

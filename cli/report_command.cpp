@@ -2,12 +2,12 @@
 
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
-#include "cli/json_error.h"
 #include "cli/project_loading.h"
 #include "cli/stderr_dialogs.h"
 #include "engine/analysis_run.h"
 #include "engine/project_analysis.h"
 #include "output/results_screen.h"
+#include "reports/page_frame.h"
 #include "reports/qt/pdf_report.h"
 #include "reports/recording_surface.h"
 #include "reports/report_run.h"
@@ -30,12 +30,25 @@ class RememberingDialogs : public StreamDialogs {
     std::string last;
 };
 
-nlohmann::ordered_json ColourJson(Colour colour) {
-    return {colour.red, colour.green, colour.blue};
+bool IsRed(Colour colour) {
+    return colour.red == 255 && colour.green == 0 && colour.blue == 0;
 }
 
-// Every sheet as the recording surface kept it: texts with their place and style, and lines.
-nlohmann::ordered_json SheetsJson(const RecordingSurface& surface) {
+// The heights of "Bg" at 10, 12 and 14 point as a page measures them on the recording surface,
+// whose metrics are the same on every sheet.
+nlohmann::ordered_json LineHeightsJson(const DesignRecord& record, const ResultsRecord& results,
+                                       const std::string& fontName) {
+    RecordingSurface scratch;
+    PageContext page{scratch, record, results};
+    page.fontName = fontName;
+    const LineHeights heights = MeasureLineHeights(page);
+    return {heights.points10, heights.points12, heights.points14};
+}
+
+// Every sheet as the recording surface kept it: texts with their place and style in drawing
+// order, and lines.
+nlohmann::ordered_json SheetsJson(const RecordingSurface& surface,
+                                  const nlohmann::ordered_json& lineHeights) {
     nlohmann::ordered_json sheets = nlohmann::ordered_json::array();
     for (const RecordedSheet& sheet : surface.sheets()) {
         nlohmann::ordered_json texts = nlohmann::ordered_json::array();
@@ -43,24 +56,37 @@ nlohmann::ordered_json SheetsJson(const RecordingSurface& surface) {
             texts.push_back({{"x", t.x},
                              {"y", t.y},
                              {"text", t.text},
-                             {"font", t.font},
                              {"size", t.size},
                              {"bold", t.bold},
                              {"underline", t.underline},
-                             {"colour", ColourJson(t.colour)}});
+                             {"red", IsRed(t.colour)}});
         }
         nlohmann::ordered_json lines = nlohmann::ordered_json::array();
         for (const RecordedLine& l : sheet.lines) {
-            lines.push_back({{"x1", l.x1},
-                             {"y1", l.y1},
-                             {"x2", l.x2},
-                             {"y2", l.y2},
-                             {"width", l.width},
-                             {"colour", ColourJson(l.colour)}});
+            lines.push_back(
+                {{"x1", l.x1}, {"y1", l.y1}, {"x2", l.x2}, {"y2", l.y2}, {"width", l.width}});
         }
-        sheets.push_back({{"texts", std::move(texts)}, {"lines", std::move(lines)}});
+        sheets.push_back({{"lineHeights", lineHeights},
+                          {"texts", std::move(texts)},
+                          {"lines", std::move(lines)}});
     }
     return sheets;
+}
+
+// The report as JSON when no sheet is drawn: after a fault, or with nothing to print.
+nlohmann::ordered_json EmptyReportJson(int version) {
+    nlohmann::ordered_json document;
+    document["version"] = version;
+    document["fault"] = nullptr;
+    document["warning"] = nullptr;
+    document["sheets"] = 0;
+    document["pages"] = nlohmann::ordered_json::array();
+    return document;
+}
+
+nlohmann::ordered_json FaultJson(FaultKind kind, std::optional<int> stage) {
+    return {{"kind", FaultKindName(kind)},
+            {"stage", stage ? nlohmann::ordered_json(*stage) : nlohmann::ordered_json(nullptr)}};
 }
 
 } // namespace
@@ -80,6 +106,11 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
             << " ended in a fault: " << FaultKindName(*outcome.faultKind) << " in stage "
             << outcome.faultStage << " (" << AnalysisStageName(outcome.faultStage)
             << "). No report is written.\n";
+        if (options.json) {
+            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
+            document["fault"] = FaultJson(*outcome.faultKind, outcome.faultStage);
+            out << document.dump(2) << '\n';
+        }
         return ExitEngineFault;
     }
     ResultsScreen screen = LoadResultsScreen();
@@ -90,6 +121,21 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
         err << "korvath3-cli: the design exceptions of " << options.project.string()
             << " ended in a fault: " << FaultKindName(fault.kind)
             << " in the beam depth ratio. No report is written.\n";
+        if (options.json) {
+            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
+            document["fault"] = FaultJson(fault.kind, std::nullopt);
+            out << document.dump(2) << '\n';
+        }
+        return ExitEngineFault;
+    } catch (const ResultsValueFault& fault) {
+        err << "korvath3-cli: the analysis of " << options.project.string()
+            << " ended in a fault: " << FaultKindName(fault.kind) << ResultsValueFaultPlace
+            << ". No report is written.\n";
+        if (options.json) {
+            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
+            document["fault"] = FaultJson(fault.kind, std::nullopt);
+            out << document.dump(2) << '\n';
+        }
         return ExitEngineFault;
     }
 
@@ -103,19 +149,26 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     RememberingDialogs dialogs(err);
     SystemClock clock;
     std::optional<PrintJob> job = PressPrint(dialog, record, options.defaultPages, dialogs, clock);
-    if (!job) {
+    // Nothing to print: the report's object says why in "warning", and in "error" as every
+    // failure of the command line does.
+    const auto nothingToPrint = [&](const std::string& warning) {
         if (options.json) {
-            PrintJsonError({ExitNothingToPrint, dialogs.last, options.project.string()}, out);
+            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
+            document["warning"] = warning;
+            document["error"] = {{"number", ExitNothingToPrint},
+                                 {"message", warning},
+                                 {"path", options.project.string()}};
+            out << document.dump(2) << '\n';
         }
         return ExitNothingToPrint;
+    };
+    if (!job) {
+        return nothingToPrint(dialogs.last);
     }
     if (job->pages.empty()) {
         const std::string warning = "the range holds no page to print; nothing is written";
         err << "korvath3-cli: Print Warning: " << warning << '\n';
-        if (options.json) {
-            PrintJsonError({ExitNothingToPrint, warning, options.project.string()}, out);
-        }
-        return ExitNothingToPrint;
+        return nothingToPrint(warning);
     }
 
     ReportSettings settings;
@@ -127,15 +180,9 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     if (options.json) {
         RecordingSurface surface;
         PrintReport(surface, *job, record, results, settings);
-        nlohmann::ordered_json document;
-        document["version"] = loaded->version;
-        document["totalSheets"] = job->totalSheets;
-        nlohmann::ordered_json pages = nlohmann::ordered_json::array();
-        for (const PlannedPage& page : job->pages) {
-            pages.push_back(page.procedure);
-        }
-        document["pages"] = std::move(pages);
-        document["sheets"] = SheetsJson(surface);
+        nlohmann::ordered_json document = EmptyReportJson(loaded->version);
+        document["sheets"] = surface.sheets().size();
+        document["pages"] = SheetsJson(surface, LineHeightsJson(record, results, job->fontName));
         out << document.dump(2) << '\n';
         return ExitAnalysed;
     }

@@ -22,6 +22,7 @@ namespace {
 struct ResultsFault {
     FaultKind kind;
     std::optional<int> stage; // none for the design exceptions' beam depth ratio
+    bool screenValue = false; // a value worked out for the screen, not the depth ratio
 };
 
 } // namespace
@@ -48,6 +49,8 @@ int RunResultsCommand(const ResultsOptions& options, std::ostream& out, std::ost
             ArrangeResultsScreen(screen, record, ResultsScreenWidth);
         } catch (const ArithmeticFault& exceptionsFault) {
             fault = ResultsFault{exceptionsFault.kind, std::nullopt};
+        } catch (const ResultsValueFault& valueFault) {
+            fault = ResultsFault{valueFault.kind, std::nullopt, true};
         }
     }
 
@@ -71,6 +74,8 @@ int RunResultsCommand(const ResultsOptions& options, std::ostream& out, std::ost
             << " ended in a fault: " << FaultKindName(fault->kind);
         if (fault->stage) {
             err << " in stage " << *fault->stage << " (" << AnalysisStageName(*fault->stage) << ")";
+        } else if (fault->screenValue) {
+            err << ResultsValueFaultPlace;
         } else {
             err << " in the beam depth ratio of the design exceptions";
         }

@@ -24,10 +24,12 @@ struct AnalysisPage {
     Names tension{};
     std::string compressionHeading{};
     Names compression{};
-    std::string criterion{}; // the stiffness coefficient or the deflection ratio
-    Names demand{};          // lift: required inertia; down: actual deflection
-    Names allowed{};         // lift: available inertia; down: allowable deflection
-    std::string ddPanel{};   // ribbed lift pages: the differential deflection panel
+    // The stiffness coefficient or the deflection ratio. The two down pages share the array
+    // `lblDefSettle`: (0) the center down ratio `DefSettle`, (1) the edge down one `DefCLSettle`.
+    std::string criterion{};
+    Names demand{};        // lift: required inertia; down: actual deflection
+    Names allowed{};       // lift: available inertia; down: allowable deflection
+    std::string ddPanel{}; // ribbed lift pages: the differential deflection panel
     Names ddAllowed{};
     Names ddActual{};
     Names shear{};
@@ -96,7 +98,7 @@ const AnalysisPage RibbedCenterDown{
     .tension = PairArray("lblcPMT"),
     .compressionHeading = "Compression in Top Fiber",
     .compression = PairArray("lblcPMC"),
-    .criterion = "lblDefSettle",
+    .criterion = ArrayName("lblDefSettle", 0),
     .demand = Pair("lblcDDS", "lblcDDL"),
     .allowed = Pair("lblAcDDS", "lblAcDDL"),
     .shear = PairArray("lblcVS"),
@@ -114,7 +116,7 @@ const AnalysisPage RibbedEdgeDown{
     .tension = PairArray("lblcNMT"),
     .compressionHeading = "Compression in Bottom Fiber",
     .compression = PairArray("lblcNMC"),
-    .criterion = "lblDefCLSettle",
+    .criterion = ArrayName("lblDefSettle", 1),
     .demand = Pair("lblcCLDDS", "lblcCLDDL"),
     .allowed = Pair("lblcACLDDS", "lblcACLDDL"),
     .shear = PairArray("lblcCLVS"),
@@ -171,7 +173,7 @@ const AnalysisPage UniformCenterDown{
     .tension = PairArray("lbleqcPMT"),
     .compressionHeading = "Compression in Top Fiber",
     .compression = PairArray("lbleqcPMC"),
-    .criterion = "lbleqDefSettle",
+    .criterion = ArrayName("lbleqDefSettle", 0),
     .demand = PairArray("lbleqcDD"),
     .allowed = PairArray("lbleqcADD"),
     .shear = PairArray("lbleqcVS"),
@@ -189,7 +191,7 @@ const AnalysisPage UniformEdgeDown{
     .tension = PairArray("lbleqcCLNMT"),
     .compressionHeading = "Compression in Bottom Fiber",
     .compression = PairArray("lbleqcCLNMC"),
-    .criterion = "lbleqDefCLSettle",
+    .criterion = ArrayName("lbleqDefSettle", 1),
     .demand = PairArray("lbleqcCLDD"),
     .allowed = PairArray("lbleqcCLADD"),
     .shear = PairArray("lbleqcCLVS"),
@@ -301,9 +303,9 @@ void FillAnalysisPageNotes(FormModel& form, const ResultsRecord& r,
     for (int copy = 0; copy < AllowableCopies; ++copy) {
         // The line load page gives its allowables with their unit.
         const std::string unit = copy == LineLoadCopy ? " KSI" : "";
-        SetLabel(form, ArrayName("lblFT", copy), FormatNumber(r.AllowTension, "#,##0.000") + unit);
+        SetLabel(form, ArrayName("lblFT", copy), ShownNumber(r.AllowTension, "#,##0.000") + unit);
         SetLabel(form, ArrayName("lblFc", copy),
-                 FormatNumber(r.AllowCompression / 1000, "#,##0.000") + unit);
+                 ShownNumber(r.AllowCompression / 1000, "#,##0.000") + unit);
         ShowLabel(form, ArrayName("lblUseBeta", copy), settings.UseBeta == 1);
     }
     ShowLabel(form, "lblEm5RuleS", r.Em5ControlShort != 0);

@@ -2,8 +2,20 @@
 
 #include "common/number_pattern.h"
 
+#include <cmath>
+
+std::string ShownNumber(double value, std::string_view pattern) {
+    if (std::isnan(value)) {
+        throw ResultsValueFault{FaultKind::InvalidArgument};
+    }
+    if (std::isinf(value)) {
+        throw ResultsValueFault{FaultKind::Overflow};
+    }
+    return FormatNumber(value, pattern);
+}
+
 void SetNumber(FormModel& form, std::string_view name, double value, std::string_view pattern) {
-    SetLabel(form, name, FormatNumber(value, pattern));
+    SetLabel(form, name, ShownNumber(value, pattern));
 }
 
 void SetPairArray(FormModel& form, std::string_view array, double shortValue, double longValue,

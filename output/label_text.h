@@ -7,7 +7,23 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/checked_math.h"
+
 // Writing the results into the screen's labels: a label's text is its caption.
+
+// A value the screen works out from the results (a prestress from a force and its section) that
+// is too large for a number, or no number at all: FillResults stops there, as the analysis does
+// at a fault, rather than show "Infinity".
+struct ResultsValueFault {
+    FaultKind kind;
+};
+
+// Where such a fault happened, as the messages name it after the fault's kind.
+inline constexpr const char* ResultsValueFaultPlace =
+    " in a value worked out for the results screen";
+
+// The value in the number pattern; throws ResultsValueFault for a value that is not finite.
+std::string ShownNumber(double value, std::string_view pattern);
 
 inline void SetLabel(FormModel& form, std::string_view name, std::string text) {
     form[name].caption = std::move(text);

@@ -16,10 +16,10 @@ const std::vector<std::string> UniformRows = {
 
 void SetRows(FormModel& form, const std::string& suffix, double moment, double compression,
              double tension, double prestress) {
-    SetLabel(form, "lblllPM" + suffix, FormatNumber(moment / 1000, "#,##0.00") + " K FT/FT");
-    SetLabel(form, "lblllST" + suffix, FormatNumber(compression / 1000, "#,##0.000") + " KSI");
-    SetLabel(form, "lblllSB" + suffix, FormatNumber(tension / 1000, "#,##0.000") + " KSI");
-    SetLabel(form, "lblllPrestress" + suffix, FormatNumber(prestress, "#,##0.0") + " PSI");
+    SetLabel(form, "lblllPM" + suffix, ShownNumber(moment / 1000, "#,##0.00") + " K FT/FT");
+    SetLabel(form, "lblllST" + suffix, ShownNumber(compression / 1000, "#,##0.000") + " KSI");
+    SetLabel(form, "lblllSB" + suffix, ShownNumber(tension / 1000, "#,##0.000") + " KSI");
+    SetLabel(form, "lblllPrestress" + suffix, ShownNumber(prestress, "#,##0.0") + " PSI");
 }
 
 } // namespace
@@ -53,11 +53,11 @@ void FillLineLoadPage(FormModel& form, const DesignRecord& record, const Results
         SetRows(form, "eq", r.UTLLMoment, r.UTLLStressCompression, r.UTLLStressTension,
                 r.UTLLPrestress);
         // Both slabs are on the page: each row names its slab's thickness.
-        const std::string ribbed = FormatNumber(record.SlabThick, "#0.00");
+        const std::string ribbed = ShownNumber(record.SlabThick, "#0.00");
         SetLabel(form, Line(0), "Calculated Moment (" + ribbed + " In.Thick Slab) :");
         SetLabel(form, Line(1), "Applied Bending Stress (" + ribbed + " In. Thick Slab) :");
         SetLabel(form, Line(2), "Prestress at Line Load (" + ribbed + " In. Thick Slab) :");
-        const std::string flat = FormatNumber(r.UTThickness, "#0.00");
+        const std::string flat = ShownNumber(r.UTThickness, "#0.00");
         SetLabel(form, Line(3), "Calculated Moment (" + flat + " In.Thick Slab) :");
         SetLabel(form, Line(4), "Applied Bending Stress (" + flat + " In. Thick Slab) :");
         SetLabel(form, Line(5), "Prestress at Line Load (" + flat + " In. Thick Slab) :");

@@ -96,8 +96,10 @@ void PageBuilder::Panel(const std::string& name, const std::string& caption) {
     if (name.empty()) {
         return;
     }
-    Label(name, caption); // a frame is drawn with its caption as its title
+    Label(name, caption);
     m_panel = name;
+    // The panel's caption is its title, the first row inside it: it shows and hides with it.
+    Place({RowKind::Heading, name, {}, {}, {}});
 }
 
 void PageBuilder::List(const std::string& name) {

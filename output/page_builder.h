@@ -38,8 +38,8 @@ class PageBuilder {
     // A styled list of the screen, and a check box with its caption.
     void List(const std::string& name);
     void Check(const std::string& name, const std::string& caption);
-    // Rows after this call stand in the named panel, which is added here; an empty name ends the
-    // panel.
+    // Rows after this call stand in the named panel, which is added here with its caption as the
+    // heading of its first row; an empty name ends the panel.
     void Panel(const std::string& name, const std::string& caption = {});
 
   private:

@@ -4,6 +4,7 @@
 #include "compliance/compliance_pass.h"
 #include "engine/design_record.h"
 #include "engine/results_record.h"
+#include "output/label_text.h"
 #include "output/results_layout.h"
 #include "shell/form_model.h"
 
@@ -61,6 +62,7 @@ ResultsScreen LoadResultsScreen();
 // finished analysis, in the order of the screen: lists, project labels, summary lines, pages.
 // Only the pages of the analysed soil, edge down, uniform thickness foundation and line load are
 // written; the others keep their texts. Gives the lists it built with their counters. Throws
-// ArithmeticFault where the design exceptions do (a direction without any beam group).
+// ArithmeticFault where the design exceptions do (a direction without any beam group), and
+// ResultsValueFault where a value it works out from the results is not a finite number.
 CompliancePass FillResults(ResultsScreen& screen, const DesignRecord& record,
                            const ResultsRecord& results, const EngineSettings& settings);

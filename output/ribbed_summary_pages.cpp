@@ -36,13 +36,13 @@ void SetBeams(FormModel& form, const std::string& group, double quantity, double
 }
 
 std::string SlabTendonsText(double tendons, double spacing) {
-    return FormatNumber(tendons, "#,##0") + " Tendons at " + FormatNumber(spacing, "#,##0.00") +
+    return ShownNumber(tendons, "#,##0") + " Tendons at " + ShownNumber(spacing, "#,##0.00") +
            " Feet O.C.";
 }
 
 // Beam tendons per direction may be a fraction when the tendons per beam are.
 std::string BeamTendonText(double tendons) {
-    return FormatNumber(tendons, tendons == std::floor(tendons) ? "#,##0" : "#,##0.0");
+    return ShownNumber(tendons, tendons == std::floor(tendons) ? "#,##0" : "#,##0.0");
 }
 
 // A force in kips and the prestress it gives on the section, in psi.
@@ -53,8 +53,8 @@ double PrestressOf(double force, double area) {
 } // namespace
 
 std::string SlabDimensionsText(double width, double length, double thickness) {
-    return FormatNumber(width, "#,##0.00") + " FT x " + FormatNumber(length, "#,##0.00") +
-           " FT x " + FormatNumber(thickness, "#,##0.00") + " Inches thick";
+    return ShownNumber(width, "#,##0.00") + " FT x " + ShownNumber(length, "#,##0.00") + " FT x " +
+           ShownNumber(thickness, "#,##0.00") + " Inches thick";
 }
 
 std::string SubgradeFrictionText(std::int16_t subgradeType, bool uniformPage) {
@@ -141,10 +141,10 @@ void AddSelectedVariablesPage(FormModel& form, std::vector<ResultPage>& pages,
 void FillRibbedSummaryPage(FormModel& form, const DesignRecord& record, const ResultsRecord& r) {
     SetLabel(form, "lblWLT",
              SlabDimensionsText(record.RectWidth, record.RectLength, record.SlabThick));
-    SetLabel(form, "lblFpc", FormatNumber(record.Fpc, "#,##0") + " PSI");
-    SetLabel(form, "lblFpu", FormatNumber(record.Fpu, "#,##0") + " KSI");
-    SetLabel(form, "lblConcVOL", FormatNumber(r.ConcreteVolume, "#,##0.0") + " Cubic Yards");
-    SetLabel(form, "lblTNDNLGTH", FormatNumber(r.TendonLength, "#,##0.0") + " Linear Feet");
+    SetLabel(form, "lblFpc", ShownNumber(record.Fpc, "#,##0") + " PSI");
+    SetLabel(form, "lblFpu", ShownNumber(record.Fpu, "#,##0") + " KSI");
+    SetLabel(form, "lblConcVOL", ShownNumber(r.ConcreteVolume, "#,##0.0") + " Cubic Yards");
+    SetLabel(form, "lblTNDNLGTH", ShownNumber(r.TendonLength, "#,##0.0") + " Linear Feet");
     SetNumber(form, "lblNEA", r.TendonEndAllowance, "#,##0");
 
     SetBeams(form, "S1", record.QS1, record.DS1, record.WS1, record.TS1, record.CS1);
@@ -160,7 +160,7 @@ void FillRibbedSummaryPage(FormModel& form, const DesignRecord& record, const Re
     // from the slab's centroid to the face of the tendon.
     const double cover =
         record.SlabTenCovType == 1 ? record.SlabTenCov : r.CgSlab - record.TendDiam / 2;
-    SetLabel(form, "lblSlabTenCov", FormatNumber(cover, "#0.00") + " Inches");
+    SetLabel(form, "lblSlabTenCov", ShownNumber(cover, "#0.00") + " Inches");
 }
 
 void FillBearingPrestressPage(FormModel& form, const DesignRecord& record, const ResultsRecord& r,
@@ -197,17 +197,17 @@ void FillBearingPrestressPage(FormModel& form, const DesignRecord& record, const
                  "Effective Prestress Force at Beta - Center Down (Edge Down) :");
         SetLabel(form, stressCaption, "Effective Prestress at Beta - Center Down (Edge Down) :");
         SetLabel(form, "lblEPFBS",
-                 FormatNumber(r.ForceNetCDShort, "#,##0.0") + " (" +
-                     FormatNumber(r.ForceNetEDShort, "#,##0.0") + ")");
+                 ShownNumber(r.ForceNetCDShort, "#,##0.0") + " (" +
+                     ShownNumber(r.ForceNetEDShort, "#,##0.0") + ")");
         SetLabel(form, "lblEPFBL",
-                 FormatNumber(r.ForceNetCDLong, "#,##0.0") + " (" +
-                     FormatNumber(r.ForceNetEDLong, "#,##0.0") + ")");
+                 ShownNumber(r.ForceNetCDLong, "#,##0.0") + " (" +
+                     ShownNumber(r.ForceNetEDLong, "#,##0.0") + ")");
         SetLabel(form, "lblEPBS",
-                 FormatNumber(PrestressOf(r.ForceNetCDShort, r.AreaShort), "#,##0") + " (" +
-                     FormatNumber(PrestressOf(r.ForceNetEDShort, r.AreaShort), "#,##0") + ")");
+                 ShownNumber(PrestressOf(r.ForceNetCDShort, r.AreaShort), "#,##0") + " (" +
+                     ShownNumber(PrestressOf(r.ForceNetEDShort, r.AreaShort), "#,##0") + ")");
         SetLabel(form, "lblEPBL",
-                 FormatNumber(PrestressOf(r.ForceNetCDLong, r.AreaLong), "#,##0") + " (" +
-                     FormatNumber(PrestressOf(r.ForceNetEDLong, r.AreaLong), "#,##0") + ")");
+                 ShownNumber(PrestressOf(r.ForceNetCDLong, r.AreaLong), "#,##0") + " (" +
+                     ShownNumber(PrestressOf(r.ForceNetEDLong, r.AreaLong), "#,##0") + ")");
     } else if (record.SoilType != 0) {
         SetLabel(form, forceCaption, "Effective Prestress Force at Beta - Center Down :");
         SetLabel(form, stressCaption, "Effective Prestress at Beta - Center Down :");

@@ -7,7 +7,7 @@
 namespace {
 
 std::string ForceAndEdgeDown(double centerDown, double edgeDown, const char* pattern) {
-    return FormatNumber(centerDown, pattern) + " (" + FormatNumber(edgeDown, pattern) + ")";
+    return ShownNumber(centerDown, pattern) + " (" + ShownNumber(edgeDown, pattern) + ")";
 }
 
 } // namespace
@@ -62,13 +62,13 @@ void FillUniformSummaryPage(FormModel& form, const DesignRecord& record, const R
     SetLabel(form, "lbleqWLT",
              SlabDimensionsText(record.RectWidth, record.RectLength, r.UTThickness));
     SetLabel(form, "lblEqFST",
-             FormatNumber(r.UTThickness, "#0.00") + " (" + FormatNumber(r.EquivSlabThick, "#0.00") +
+             ShownNumber(r.UTThickness, "#0.00") + " (" + ShownNumber(r.EquivSlabThick, "#0.00") +
                  ")");
     SetLabel(form, "lblEFS", "Uniform Thickness Slab :");
-    SetLabel(form, "lbleqFpc", FormatNumber(record.Fpc, "#,##0") + " PSI");
-    SetLabel(form, "lbleqFpu", FormatNumber(record.Fpu, "#,##0") + " KSI");
-    SetLabel(form, "lbleqConcVOL", FormatNumber(r.UTConcreteVolume, "#,##0.0") + " Cubic Yards");
-    SetLabel(form, "lbleqTNDNLGTH", FormatNumber(r.UTTendonLength, "#,##0.0") + " Linear Feet");
+    SetLabel(form, "lbleqFpc", ShownNumber(record.Fpc, "#,##0") + " PSI");
+    SetLabel(form, "lbleqFpu", ShownNumber(record.Fpu, "#,##0") + " KSI");
+    SetLabel(form, "lbleqConcVOL", ShownNumber(r.UTConcreteVolume, "#,##0.0") + " Cubic Yards");
+    SetLabel(form, "lbleqTNDNLGTH", ShownNumber(r.UTTendonLength, "#,##0.0") + " Linear Feet");
     SetNumber(form, "lbleqNEA", r.UTTendonEndAllowance, "#,##0");
     SetNumber(form, "lbleqNSTS", r.UTTotalTenShort, "#,##0");
     SetNumber(form, "lbleqNSTL", r.UTTotalTenLong, "#,##0");

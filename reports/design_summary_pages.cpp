@@ -17,14 +17,20 @@ std::string F(double value, const char* pattern) {
     return FormatNumber(value, pattern);
 }
 
-// Two bold, underlined column heads centred on the columns.
+// Two column heads centred on the columns, plain.
 void ColumnHeads(PageWriter& w, const std::string& first, const std::string& second,
-                 double firstCentre = FirstTypeCentre) {
+                 double firstCentre) {
+    DrawingSurface& s = w.surface();
+    w.Text(firstCentre - s.TextWidth(first) / 2, first);
+    w.Text(SecondTypeCentre - s.TextWidth(second) / 2, second);
+}
+
+// The beam tables' heads, "Type I Beam" and "Type II Beam", are headings: bold and underlined.
+void BeamColumnHeads(PageWriter& w) {
     DrawingSurface& s = w.surface();
     s.SetBold(true);
     s.SetUnderline(true);
-    w.Text(firstCentre - s.TextWidth(first) / 2, first);
-    w.Text(SecondTypeCentre - s.TextWidth(second) / 2, second);
+    ColumnHeads(w, "Type I Beam", "Type II Beam", FirstTypeCentre);
     s.SetUnderline(false);
     s.SetBold(false);
 }
@@ -87,7 +93,7 @@ void BeamBlock(PageWriter& w, const DesignRecord& r, const ResultsRecord& result
                const DirectionBeams& d) {
     w.Heading(d.heading);
     w.Step();
-    ColumnHeads(w, "Type I Beam", "Type II Beam");
+    BeamColumnHeads(w);
     w.Step();
     TwoValues(w, "Quantity of Beams :", F(d.quantity1, "#,##0"), F(d.quantity2, "#,##0"));
     TwoValues(w, "Depth of Beams :", F(d.depth1, "#,##0.0"), F(d.depth2, "#,##0.0"), " Inches");

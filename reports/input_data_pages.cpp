@@ -13,6 +13,14 @@ constexpr double PairEdges[] = {6840, 8640};
 // Four columns of the beam table: short Type I and II, long Type I and II.
 constexpr double BeamEdges[] = {5040, 6240, 7440, 8640};
 constexpr double UnitGap = 60;
+// The user's subgrade friction: its heads share the line of a long label, so its columns stand
+// further right than the other pairs, the short one on the value column, each head ending on its
+// column's edge.
+constexpr double FrictionEdges[] = {8640, 10140};
+// The line load's stresses: labels as long as "Applied Stress (Uniform Thickness Foundation) :"
+// and heads as wide as "Compression in Extreme Fiber" leave room for two columns only here, each
+// head ending on its column's edge.
+constexpr double LineLoadStressEdges[] = {7540, 10540};
 
 std::string F(double value, const char* pattern) {
     return FormatNumber(value, pattern);
@@ -40,6 +48,13 @@ void Heads(PageWriter& w, const double* edges, std::size_t count,
     DrawingSurface& s = w.surface();
     for (std::size_t i = 0; i < count && i < heads.size(); ++i) {
         w.Text(edges[i] - width / 2 - s.TextWidth(heads[i]) / 2, heads[i]);
+    }
+}
+
+// Heads that end on the edges of the columns under them.
+void RightAlignedHeads(PageWriter& w, const double* edges, const std::vector<std::string>& heads) {
+    for (std::size_t i = 0; i < heads.size(); ++i) {
+        w.Text(edges[i] - w.surface().TextWidth(heads[i]), heads[i]);
     }
 }
 
@@ -236,17 +251,17 @@ void LoadBlock(PageWriter& w, const DesignRecord& r) {
         w.Step();
     } else if (r.Subgradetype == 2) {
         w.Label("User Defined Subgrade Friction used in analysis");
-        Heads(w, PairEdges, 2, {"Short Direction", "Long Direction"}, 1200);
+        RightAlignedHeads(w, FrictionEdges, {"Short Direction", "Long Direction"});
         w.Step();
         // The maximum line prints the friction at Beta and the line at Beta the maximum: the
         // labels stand crossed, as they always have.
         w.Label("Maximum :");
-        w.Value(PairEdges[0], F(r.UDSM, "##0.00"), " Kips");
-        w.Value(PairEdges[1], F(r.UDLM, "##0.00"), " Kips");
+        w.Value(FrictionEdges[0], F(r.UDSM, "##0.00"), " Kips");
+        w.Value(FrictionEdges[1], F(r.UDLM, "##0.00"), " Kips");
         w.Step();
         w.Label("At Beta :");
-        w.Value(PairEdges[0], F(r.UDSS, "##0.00"), " Kips");
-        w.Value(PairEdges[1], F(r.UDLS, "##0.00"), " Kips");
+        w.Value(FrictionEdges[0], F(r.UDSS, "##0.00"), " Kips");
+        w.Value(FrictionEdges[1], F(r.UDLS, "##0.00"), " Kips");
         w.Step();
     }
     OneValue(w, "Prestress Loss :", F(r.Prestress, "##0.0"), "  KSI");
@@ -316,11 +331,13 @@ void PrintLLA(PageContext& page, const LineHeights& heights, bool lastPage) {
     w.Label("Bending Stresses (KSI)");
     UnboldBlack(w.surface());
     w.Step();
-    Heads(w, PairEdges, 2, {"Tension in Extreme Fiber", "Compression in Extreme Fiber"}, 1200);
+    RightAlignedHeads(w, LineLoadStressEdges,
+                      {"Tension in Extreme Fiber", "Compression in Extreme Fiber"});
     w.Step();
     const auto stresses = [&w](const std::string& label, double tension, double compression) {
         w.Label(label);
-        Columns(w, PairEdges, 2, {F(tension, "###,##0.000"), F(compression, "###,##0.000")});
+        Columns(w, LineLoadStressEdges, 2,
+                {F(tension, "###,##0.000"), F(compression, "###,##0.000")});
         w.Step();
     };
     stresses("Allowable Stress :", res.AllowTension, res.AllowCompression / 1000);

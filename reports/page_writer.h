@@ -24,8 +24,8 @@ class PageWriter {
     // A text raised (negative) or lowered by `shift` twips, placed after the text before it.
     double TextAt(double x, double shift, const std::string& text);
     void Step(int lines = 1);
-    // The results pages hold more lines than a sheet has at full line steps: they step by a
-    // share of the line height (1 is a whole line).
+    // A step of a share of the line height (1, a whole line, unless a full sheet must be fitted
+    // above its footer).
     void SetLineStep(double share) { m_lineStep = share; }
     // Moves down past a heading of `points` size: its own height and a little air.
     void StepPastHeading(double points);

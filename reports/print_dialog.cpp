@@ -96,11 +96,40 @@ void ChoosePrintRange(PrintDialog& dialog, const DesignRecord& record, PrintRang
     }
 }
 
+void ClickPrintControl(PrintDialog& dialog, const DesignRecord& record,
+                       const std::string& control) {
+    for (int range = 0; range < 3; ++range) {
+        if (control == ArrayName("Option1", range)) {
+            ChoosePrintRange(dialog, record, static_cast<PrintRange>(range));
+            return;
+        }
+    }
+    Control& box = dialog.form[control];
+    if (box.enabled) {
+        box.checked = !box.checked;
+    }
+}
+
+void ChooseReportFont(PrintDialog& dialog, int index) {
+    Control& fonts = dialog.form["cbbReportFont"];
+    if (index < 0 || index >= static_cast<int>(fonts.items.size())) {
+        return;
+    }
+    fonts.selectedIndex = index;
+    fonts.text = fonts.items[static_cast<std::size_t>(index)];
+}
+
+void ShowPrinterName(PrintDialog& dialog, const std::string& printerName) {
+    dialog.form["lblCurrentPrinter"].caption = printerName;
+}
+
 void OpenPrintDialog(PrintDialog& dialog, const DesignRecord& record,
-                     const std::vector<std::string>& fonts, const std::string& printerName) {
+                     const std::vector<std::string>& fonts, const std::string& printerName,
+                     PrintPath path) {
+    dialog.openedFrom = path;
     ChoosePrintRange(dialog, record, ChosenRange(dialog));
     dialog.form["cbbReportFont"].items = fonts;
-    dialog.form["lblCurrentPrinter"].caption = printerName;
+    ShowPrinterName(dialog, printerName);
     dialog.visible = true;
 }
 
@@ -138,8 +167,9 @@ NothingToPrintWarning(const DesignRecord& record,
                               "Analysis yet the \nLine Load Analysis was not performed therefore "
                               "there is nothing to print."};
     }
+    // This one alone is a plain box, without the exclamation mark of the two above.
     if (!OnlyFlaggedBetween(defaultPages, 0, ReportPageCount - 1)) {
-        return MessageRequest{MessageIcon::Exclamation, WarningTitle,
+        return MessageRequest{MessageIcon::None, WarningTitle,
                               "The Default Report has no pages selected therefore therefore "
                               "there is nothing to print."};
     }

@@ -17,20 +17,26 @@
 
 enum class PrintRange { Default = 0, Entire = 1, Selected = 2 };
 
+// The command that opened the dialog: the menu's `mnuPrint` or the toolbar's Print button. A
+// printing failure is shown under the title of the command's own handler.
+enum class PrintPath { Menu, Toolbar };
+
 struct PrintDialog {
     FormModel form;
     bool visible = false;
     bool busyPointer = false;
+    PrintPath openedFrom = PrintPath::Menu;
 };
 
 // The dialog as it is loaded: the default report chosen, every box cleared and disabled, the
 // font "Arial".
 PrintDialog LoadPrintDialog();
 
-// Opening the dialog: the boxes set for the range that stands, the font list and the printer's
-// name shown.
+// Opening the dialog from the menu or the toolbar: the boxes set for the range that stands, the
+// font list and the printer's name shown.
 void OpenPrintDialog(PrintDialog& dialog, const DesignRecord& record,
-                     const std::vector<std::string>& fonts, const std::string& printerName);
+                     const std::vector<std::string>& fonts, const std::string& printerName,
+                     PrintPath path);
 
 // Choosing a range. With the selected pages the boxes of the pages the project has are enabled,
 // the others disabled and cleared; with the default or the entire report all ten are cleared
@@ -38,6 +44,16 @@ void OpenPrintDialog(PrintDialog& dialog, const DesignRecord& record,
 void ChoosePrintRange(PrintDialog& dialog, const DesignRecord& record, PrintRange range);
 
 PrintRange ChosenRange(const PrintDialog& dialog);
+
+// A click on a range `Option1(0..2)`, which chooses it, or on a page box `Check1(0..9)`, which
+// ticks or clears it; a disabled box cannot be set.
+void ClickPrintControl(PrintDialog& dialog, const DesignRecord& record, const std::string& control);
+
+// The user chose item `index` of the report font list; an index outside the list changes nothing.
+void ChooseReportFont(PrintDialog& dialog, int index);
+
+// The printer's name under "Current Printer :", at opening and after "Setup ...".
+void ShowPrinterName(PrintDialog& dialog, const std::string& printerName);
 
 // The sheets a range prints. The default report counts the pages of `defaultPages` the project
 // has; the selected pages those whose box is ticked.
@@ -88,7 +104,7 @@ void EndPrinting(PrintDialog& dialog);
 // The ticks of the ten boxes.
 std::array<bool, 10> TickedPages(const PrintDialog& dialog);
 
-// The message of a printer that cannot be read (run-time error 484 and the others) under the
-// title of the menu's path or of the toolbar's.
-enum class PrintPath { Menu, Toolbar };
+// The message of a printer that cannot be read (run-time error 484) or of any other printing
+// failure, under the title of the menu's path ("Critical Error") or of the toolbar's ("Printing
+// Critical Error").
 MessageRequest PrinterErrorMessage(int errorNumber, const std::string& description, PrintPath path);

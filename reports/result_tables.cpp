@@ -2,6 +2,8 @@
 
 #include "common/number_pattern.h"
 
+#include <algorithm>
+
 namespace {
 
 // The two columns of short and long values: heads centred on these x, values right-aligned a
@@ -9,6 +11,7 @@ namespace {
 constexpr double ShortCentre = 8640;
 constexpr double LongCentre = 10060;
 constexpr double EdgeOffset = 350;
+static_assert(ShortCentre + EdgeOffset == SingleValueEdge);
 
 // The four columns of the stress tables: tension short and long, then compression.
 constexpr double StressCentres[] = {4360, 5460, 8640, 9740};
@@ -16,6 +19,13 @@ constexpr double SecondLabelX = 6300;
 
 void Centred(PageWriter& w, double centre, const std::string& text) {
     w.Text(centre - w.surface().TextWidth(text) / 2, text);
+}
+
+// Centred on `centre`, but drawn left far enough to end on the right text edge: the caption over
+// the compression columns is wider than the room to the right of their middle.
+void CentredWithinEdge(PageWriter& w, double centre, const std::string& text) {
+    const double width = w.surface().TextWidth(text);
+    w.Text(std::min(centre - width / 2, RightTextEdge - width), text);
 }
 
 } // namespace
@@ -53,7 +63,12 @@ void DirectionHeads(PageWriter& w) {
 
 void PairRow(PageWriter& w, const std::string& label, const std::string& shortText,
              const std::string& longText) {
-    w.Label(label);
+    PairRowAt(w, w.page().column2, label, shortText, longText);
+}
+
+void PairRowAt(PageWriter& w, double labelX, const std::string& label, const std::string& shortText,
+               const std::string& longText) {
+    w.Text(labelX, label);
     w.Value(ShortCentre + EdgeOffset, shortText);
     w.Value(LongCentre + EdgeOffset, longText);
     w.Step();
@@ -73,13 +88,13 @@ void PowerPairRow(PageWriter& w, const std::string& before, const std::string& p
 void SingleRow(PageWriter& w, const std::string& label, const std::string& value,
                const std::string& unit) {
     w.Label(label);
-    w.Value(ShortCentre + EdgeOffset, value, unit);
+    w.Value(SingleValueEdge, value, unit);
     w.Step();
 }
 
 void StressRows(PageWriter& w, const ResultsRecord& r, const StressTable& t) {
     Centred(w, (StressCentres[0] + StressCentres[1]) / 2, t.tensionCaption);
-    Centred(w, (StressCentres[2] + StressCentres[3]) / 2, t.compressionCaption);
+    CentredWithinEdge(w, (StressCentres[2] + StressCentres[3]) / 2, t.compressionCaption);
     w.Step();
     const char* heads[] = {"Short", "Long", "Short", "Long"};
     for (int i = 0; i < 4; ++i) {

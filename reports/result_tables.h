@@ -10,6 +10,9 @@
 
 std::string Formatted(double value, const char* pattern);
 
+// The right edge of a line's single value, level with the values of the short column.
+inline constexpr double SingleValueEdge = 8990;
+
 // A block heading at column 1, and a line after it.
 void BlockHeading(PageWriter& w, const std::string& heading);
 // The same with the note that stresses come from the prestress at Beta after it on its line.
@@ -19,6 +22,9 @@ void MomentHeading(PageWriter& w, const std::string& heading, bool useBeta,
 void DirectionHeads(PageWriter& w);
 void PairRow(PageWriter& w, const std::string& label, const std::string& shortText,
              const std::string& longText);
+// The same with the label at `labelX` rather than at column 2.
+void PairRowAt(PageWriter& w, double labelX, const std::string& label, const std::string& shortText,
+               const std::string& longText);
 // A label with a raised power, "(Inch" "4" ")", and its pair of values.
 void PowerPairRow(PageWriter& w, const std::string& before, const std::string& power,
                   const std::string& after, const std::string& shortText,

@@ -1,6 +1,7 @@
 #include "reports/results_pages.h"
 
 #include "common/number_text.h"
+#include "reports/fitted_sheet.h"
 #include "reports/result_tables.h"
 
 namespace {
@@ -11,10 +12,6 @@ const char* const CompressibleBetaNote = "  (Stresses calculated using prestress
 std::string F(double value, const char* pattern) {
     return Formatted(value, pattern);
 }
-
-// Lines step by nine tenths of a line, so that each sheet of results holds its blocks, a line
-// apart, above the footer.
-constexpr double ResultsLineStep = 0.9;
 
 void BetweenBlocks(PageWriter& w) {
     w.Step();
@@ -44,18 +41,39 @@ std::string FrictionLine(std::int16_t subgradeType) {
     }
 }
 
+// The bearing area and the pressure on the soil share one line: the area in the middle, the
+// pressure's label after it and its value in the value column. The label that names the beam
+// bottoms leaves no room for that at 10 point: the area then ends its line in the value column
+// and the pressure follows as a line of its own.
+constexpr double BearingAreaEdge = 5040;
+constexpr double PressureLabelX = 5760;
+constexpr double LabelGap = 200;
+
+void AreaValue(PageWriter& w, double rightEdge, const std::string& area) {
+    w.Value(rightEdge, area, "  FT");
+    w.TextAt(rightEdge + w.surface().TextWidth("  FT"), -30, "2");
+}
+
 void SoilBearingBlock(PageWriter& w, bool compressiblePage) {
     const ResultsRecord& r = w.page().results;
+    DrawingSurface& s = w.surface();
     BlockHeading(w, "Soil Bearing Analysis");
     SingleRow(w, "Total Applied Load", F(r.TotalAppliedLoad, "###,##0"), "  LB");
-    // The bearing area and the pressure on the soil: one line of the page, set here as two so
-    // that the long label of the beam bottoms leaves room for the values.
-    w.Label(BearingAreaLabel(w.page(), compressiblePage));
+    const std::string label = BearingAreaLabel(w.page(), compressiblePage);
     const std::string area = F(r.BearingArea, "###,##0");
-    w.Value(8990, area, "  FT");
-    w.TextAt(8990 + w.surface().TextWidth("  FT"), -30, "2");
-    w.Step();
-    SingleRow(w, "Applied Pressure on Soil", F(r.SoilPressure, "###,##0"), "  PSF");
+    const std::string pressure = F(r.SoilPressure, "###,##0");
+    w.Label(label);
+    const double labelEnd = w.page().column2 + s.TextWidth(label);
+    if (labelEnd + LabelGap + s.TextWidth(area) <= BearingAreaEdge) {
+        AreaValue(w, BearingAreaEdge, area);
+        w.Text(PressureLabelX, "Applied Pressure on Soil");
+        w.Value(SingleValueEdge, pressure, "  PSF");
+        w.Step();
+    } else {
+        AreaValue(w, SingleValueEdge, area);
+        w.Step();
+        SingleRow(w, "Applied Pressure on Soil", pressure, "  PSF");
+    }
     SingleRow(w, "Soil Pressure Safety Factor", F(r.BearingSafety, "###,##0.00"), "");
     BetweenBlocks(w);
 }
@@ -183,12 +201,14 @@ void DifferentialDeflectionPerSecondEdition(PageWriter& w) {
         {"Center Lift", r.AllowDeflCLShort, r.AllowDeflCLLong, r.NetDeflCLShort, r.NetDeflCLLong},
         {"Edge Lift", r.AllowDeflELShort, r.AllowDeflELLong, r.NetDeflELShort, r.NetDeflELLong},
     };
+    // The mode's heading at column 1 runs past column 2: its lines stand at column 3.
+    const double column3 = w.page().column3;
     for (const auto& m : modes) {
         w.Heading(m.mode);
-        PairRow(w, "Allowable Deflection (Inch)", F(m.allowShort, "#,##0.00"),
-                F(m.allowLong, "#,##0.00"));
-        PairRow(w, "Actual Deflection (Inch)", F(m.actualShort, "#,##0.00"),
-                F(m.actualLong, "#,##0.00"));
+        PairRowAt(w, column3, "Allowable Deflection (Inch)", F(m.allowShort, "#,##0.00"),
+                  F(m.allowLong, "#,##0.00"));
+        PairRowAt(w, column3, "Actual Deflection (Inch)", F(m.actualShort, "#,##0.00"),
+                  F(m.actualLong, "#,##0.00"));
     }
 }
 
@@ -197,8 +217,8 @@ void UniformHead(PageWriter& w) {
     const ResultsRecord& r = page.results;
     BoldBlack(w.surface());
     w.Label("Uniform Thickness Slab");
-    w.Value(8990, F(r.UTThickness, "#,##0.00") + " (" + F(r.EquivSlabThick, "#,##0.00") + ")",
-            " Inches");
+    w.Value(SingleValueEdge,
+            F(r.UTThickness, "#,##0.00") + " (" + F(r.EquivSlabThick, "#,##0.00") + ")", " Inches");
     UnboldBlack(w.surface());
     w.Step();
     w.Label("(rounded to nearest 0.25 inch)");
@@ -273,253 +293,266 @@ void PrintRSV(PageContext& page, const LineHeights& heights, bool lastPage) {
 void PrintRROA(PageContext& page, const LineHeights& heights, bool lastPage) {
     const ResultsRecord& r = page.results;
     const bool useBeta = page.settings.UseBeta == 1;
-    PageWriter w(page, heights);
-    w.SetLineStep(ResultsLineStep);
-    w.Begin("RIBBED FOUNDATION - RESULTS OF ANALYSIS");
-    SoilBearingBlock(w, false);
-    RibbedPrestressHead(w);
-    PairRow(w, "Beta Distance Effective Prestress Force (K)", F(r.ForceNetShort, "#,##0.0"),
-            F(r.ForceNetLong, "#,##0.0"));
-    PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.PsCenterShort, "#,##0"),
-            F(r.PsCenterLong, "#,##0"));
-    PairRow(w, "Beta Distance Effective Prestress  (PSI)",
-            F((r.ForceNetShort * 1000) / r.AreaShort, "#,##0"),
-            F((r.ForceNetLong * 1000) / r.AreaLong, "#,##0"));
-    BetweenBlocks(w);
+    DrawFittedSheet(
+        page, heights, "RIBBED FOUNDATION - RESULTS OF ANALYSIS", false, [&](PageWriter& w) {
+            SoilBearingBlock(w, false);
+            RibbedPrestressHead(w);
+            PairRow(w, "Beta Distance Effective Prestress Force (K)", F(r.ForceNetShort, "#,##0.0"),
+                    F(r.ForceNetLong, "#,##0.0"));
+            PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.PsCenterShort, "#,##0"),
+                    F(r.PsCenterLong, "#,##0"));
+            PairRow(w, "Beta Distance Effective Prestress  (PSI)",
+                    F((r.ForceNetShort * 1000) / r.AreaShort, "#,##0"),
+                    F((r.ForceNetLong * 1000) / r.AreaLong, "#,##0"));
+            BetweenBlocks(w);
 
-    MomentHeading(w, "Moment Analysis - Center Lift Mode", useBeta, BetaNote);
-    CenterLiftMoments(w, r.MomentCLShort, r.MomentCLLong, " (controlled by Em=5.0 per PTI 4.3.2)");
-    StressRows(w, r,
-               {"Tension in Top Fiber (KSI)", "Compression in Bottom Fiber (KSI)",
-                r.StressTopCLShort, r.StressTopCLLong, r.StressBotCLShort, r.StressBotCLLong,
-                "###,##0.000"});
-    StiffnessBlock(w, {"Stiffness Analysis - Center Lift Mode", page.record.DefCenter,
-                       r.InertiaShort, r.InertiaLong, r.ReqInertiaCLShort, r.ReqInertiaCLLong,
-                       r.StiffBasisShort, r.StiffBasisLong});
-    ShearBlock(w, {"Shear Analysis - Center Lift Mode", "Maximum Shear, Short Direction.",
-                   r.ShearForceCLShort, r.ShearForceCLLong, r.AllowShearShort, r.AllowShearLong,
-                   r.ShearCLShort, r.ShearCLLong});
-    w.End(false);
-
-    w.Begin("RIBBED FOUNDATION - RESULTS OF ANALYSIS continued");
-    CrackedBlock(w, "Cracked Section Analysis - Center Lift Mode", r.CrackCapacityCLShort,
-                 r.CrackCapacityCLLong, r.CrackDemandCLShort, r.CrackDemandCLLong);
-    MomentHeading(w, "Moment Analysis - Edge Lift Mode", useBeta, BetaNote);
-    Moments(w, r.MomentELShort, r.MomentELLong);
-    StressRows(w, r,
-               {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
-                r.StressBotELShort, r.StressBotELLong, r.StressTopELShort, r.StressTopELLong,
-                "###,##0.00#"});
-    StiffnessBlock(w, {"Stiffness Analysis - Edge Lift Mode", page.record.DefEdge, r.InertiaShort,
-                       r.InertiaLong, r.ReqInertiaELShort, r.ReqInertiaELLong, r.StiffBasisShort,
-                       r.StiffBasisLong});
-    ShearBlock(w, {"Shear Analysis - Edge Lift Mode", "Maximum Shear, Short Direction",
-                   r.ShearForceELShort, r.ShearForceELLong, r.AllowShearShort, r.AllowShearLong,
-                   r.ShearELShort, r.ShearELLong});
-    BetweenBlocks(w);
-    CrackedBlock(w, "Cracked Section Analysis - Edge Lift Mode", r.CrackCapacityELShort,
-                 r.CrackCapacityELLong, r.CrackDemandELShort, r.CrackDemandELLong);
-    if (page.settings.ShowDD == 1) {
-        DifferentialDeflectionPerSecondEdition(w);
-    }
-    w.End(lastPage);
+            MomentHeading(w, "Moment Analysis - Center Lift Mode", useBeta, BetaNote);
+            CenterLiftMoments(w, r.MomentCLShort, r.MomentCLLong,
+                              " (controlled by Em=5.0 per PTI 4.3.2)");
+            StressRows(w, r,
+                       {"Tension in Top Fiber (KSI)", "Compression in Bottom Fiber (KSI)",
+                        r.StressTopCLShort, r.StressTopCLLong, r.StressBotCLShort,
+                        r.StressBotCLLong, "###,##0.000"});
+            StiffnessBlock(w, {"Stiffness Analysis - Center Lift Mode", page.record.DefCenter,
+                               r.InertiaShort, r.InertiaLong, r.ReqInertiaCLShort,
+                               r.ReqInertiaCLLong, r.StiffBasisShort, r.StiffBasisLong});
+            ShearBlock(w, {"Shear Analysis - Center Lift Mode", "Maximum Shear, Short Direction.",
+                           r.ShearForceCLShort, r.ShearForceCLLong, r.AllowShearShort,
+                           r.AllowShearLong, r.ShearCLShort, r.ShearCLLong});
+        });
+    DrawFittedSheet(
+        page, heights, "RIBBED FOUNDATION - RESULTS OF ANALYSIS continued", lastPage,
+        [&](PageWriter& w) {
+            CrackedBlock(w, "Cracked Section Analysis - Center Lift Mode", r.CrackCapacityCLShort,
+                         r.CrackCapacityCLLong, r.CrackDemandCLShort, r.CrackDemandCLLong);
+            MomentHeading(w, "Moment Analysis - Edge Lift Mode", useBeta, BetaNote);
+            Moments(w, r.MomentELShort, r.MomentELLong);
+            StressRows(w, r,
+                       {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
+                        r.StressBotELShort, r.StressBotELLong, r.StressTopELShort,
+                        r.StressTopELLong, "###,##0.00#"});
+            StiffnessBlock(w, {"Stiffness Analysis - Edge Lift Mode", page.record.DefEdge,
+                               r.InertiaShort, r.InertiaLong, r.ReqInertiaELShort,
+                               r.ReqInertiaELLong, r.StiffBasisShort, r.StiffBasisLong});
+            ShearBlock(w, {"Shear Analysis - Edge Lift Mode", "Maximum Shear, Short Direction",
+                           r.ShearForceELShort, r.ShearForceELLong, r.AllowShearShort,
+                           r.AllowShearLong, r.ShearELShort, r.ShearELLong});
+            BetweenBlocks(w);
+            CrackedBlock(w, "Cracked Section Analysis - Edge Lift Mode", r.CrackCapacityELShort,
+                         r.CrackCapacityELLong, r.CrackDemandELShort, r.CrackDemandELLong);
+            if (page.settings.ShowDD == 1) {
+                DifferentialDeflectionPerSecondEdition(w);
+            }
+        });
 }
 
 void PrintRROA_Comp(PageContext& page, const LineHeights& heights, bool lastPage) {
     const ResultsRecord& r = page.results;
     const bool useBeta = page.settings.UseBeta == 1;
     const bool edgeDown = page.record.CLSettleState == 1;
-    PageWriter w(page, heights);
-    w.SetLineStep(ResultsLineStep);
-    w.Begin("RIBBED FOUNDATION - RESULTS OF ANALYSIS");
-    SoilBearingBlock(w, true);
-    RibbedPrestressHead(w);
-    // The center down lines stand alone without edge down; the center / edge lines always
-    // print, as the page always has.
-    if (!edgeDown) {
-        PairRow(w, "Beta Distance Effective Prestress Force - Center Down (K)",
-                F(r.ForceNetCDShort, "#,##0.0"), F(r.ForceNetCDLong, "#,##0.0"));
-    }
-    PairRow(w, "Beta Distance Effective Prestress Force - Center/Edge (K)",
-            DownPair(r.ForceNetCDShort, r.ForceNetEDShort, "#,##0.0"),
-            DownPair(r.ForceNetCDLong, r.ForceNetEDLong, "#,##0.0"));
-    PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.PsCenterShort, "#,##0"),
-            F(r.PsCenterLong, "#,##0"));
-    if (!edgeDown) {
-        PairRow(w, "Beta Distance Effective Prestress - Center Down (PSI)",
-                F((r.ForceNetCDShort * 1000) / r.AreaShort, "#,##0"),
-                F((r.ForceNetCDLong * 1000) / r.AreaLong, "#,##0"));
-    }
-    PairRow(w, "Beta Distance Effective Prestress - Center/Edge (PSI)",
-            DownPair((r.ForceNetCDShort * 1000) / r.AreaShort,
-                     (r.ForceNetEDShort * 1000) / r.AreaShort, "#,##0"),
-            DownPair((r.ForceNetCDLong * 1000) / r.AreaLong, (r.ForceNetEDLong * 1000) / r.AreaLong,
-                     "#,##0"));
-    BetweenBlocks(w);
+    DrawFittedSheet(
+        page, heights, "RIBBED FOUNDATION - RESULTS OF ANALYSIS", edgeDown ? false : lastPage,
+        [&](PageWriter& w) {
+            SoilBearingBlock(w, true);
+            RibbedPrestressHead(w);
+            // The center down lines stand alone without edge down; the center / edge lines always
+            // print, as the page always has.
+            if (!edgeDown) {
+                PairRow(w, "Beta Distance Effective Prestress Force - Center Down (K)",
+                        F(r.ForceNetCDShort, "#,##0.0"), F(r.ForceNetCDLong, "#,##0.0"));
+            }
+            PairRow(w, "Beta Distance Effective Prestress Force - Center/Edge (K)",
+                    DownPair(r.ForceNetCDShort, r.ForceNetEDShort, "#,##0.0"),
+                    DownPair(r.ForceNetCDLong, r.ForceNetEDLong, "#,##0.0"));
+            PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.PsCenterShort, "#,##0"),
+                    F(r.PsCenterLong, "#,##0"));
+            if (!edgeDown) {
+                PairRow(w, "Beta Distance Effective Prestress - Center Down (PSI)",
+                        F((r.ForceNetCDShort * 1000) / r.AreaShort, "#,##0"),
+                        F((r.ForceNetCDLong * 1000) / r.AreaLong, "#,##0"));
+            }
+            PairRow(w, "Beta Distance Effective Prestress - Center/Edge (PSI)",
+                    DownPair((r.ForceNetCDShort * 1000) / r.AreaShort,
+                             (r.ForceNetEDShort * 1000) / r.AreaShort, "#,##0"),
+                    DownPair((r.ForceNetCDLong * 1000) / r.AreaLong,
+                             (r.ForceNetEDLong * 1000) / r.AreaLong, "#,##0"));
+            BetweenBlocks(w);
 
-    MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Center Down)", useBeta,
-                  CompressibleBetaNote);
-    Moments(w, r.MomentCDShort, r.MomentCDLong);
-    StressRows(w, r,
-               {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
-                r.StressBotCDShort, r.StressBotCDLong, r.StressTopCDShort, r.StressTopCDLong,
-                "###,##0.00#"});
-    DeflectionBlock(w, {"Differential Deflection Analysis - Compressible Soils Mode (Center Down)",
-                        page.record.DefSettle, "Allowable Differential Deflection controlled by",
-                        r.StiffBasisCDShort, r.StiffBasisCDLong,
-                        "Allowable Differential Deflections  (Inch)",
-                        "Actual Differential Deflections  (Inch)", r.AllowDeflCDShort,
-                        r.AllowDeflCDLong, r.NetDeflCDShort, r.NetDeflCDLong});
-    // The center down shear block prints the edge down shear forces, as the page always has.
-    ShearBlock(w, {"Shear Analysis - Compressible Soils Mode  (Center Down)",
-                   "Maximum Shear, Short Direction.", r.ShearForceEDShort, r.ShearForceEDLong,
-                   r.AllowShearShort, r.AllowShearLong, r.ShearCDShort, r.ShearCDLong});
+            MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Center Down)", useBeta,
+                          CompressibleBetaNote);
+            Moments(w, r.MomentCDShort, r.MomentCDLong);
+            StressRows(w, r,
+                       {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
+                        r.StressBotCDShort, r.StressBotCDLong, r.StressTopCDShort,
+                        r.StressTopCDLong, "###,##0.00#"});
+            DeflectionBlock(
+                w, {"Differential Deflection Analysis - Compressible Soils Mode (Center Down)",
+                    page.record.DefSettle, "Allowable Differential Deflection controlled by",
+                    r.StiffBasisCDShort, r.StiffBasisCDLong,
+                    "Allowable Differential Deflections  (Inch)",
+                    "Actual Differential Deflections  (Inch)", r.AllowDeflCDShort,
+                    r.AllowDeflCDLong, r.NetDeflCDShort, r.NetDeflCDLong});
+            // The center down shear block prints the edge down shear forces, as the page always
+            // has.
+            ShearBlock(w,
+                       {"Shear Analysis - Compressible Soils Mode  (Center Down)",
+                        "Maximum Shear, Short Direction.", r.ShearForceEDShort, r.ShearForceEDLong,
+                        r.AllowShearShort, r.AllowShearLong, r.ShearCDShort, r.ShearCDLong});
+        });
     if (!edgeDown) {
-        w.End(lastPage);
         return;
     }
-    w.End(false);
-
-    w.Begin("RIBBED FOUNDATION - RESULTS OF ANALYSIS continued");
-    MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Edge Down)", useBeta,
-                  CompressibleBetaNote);
-    Moments(w, r.MomentEDShort, r.MomentEDLong);
-    StressRows(w, r,
-               {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
-                r.StressTopEDShort, r.StressTopEDLong, r.StressBotEDShort, r.StressBotEDLong,
-                "###,##0.00#"});
-    DeflectionBlock(w, {"Differential Deflection Analysis - Compressible Soils Mode (Edge Down)",
-                        page.record.DefCLSettle, "Allowable Differential Deflection controlled by",
-                        r.StiffBasisEDShort, r.StiffBasisEDLong,
-                        "Allowable Differential Deflections  (Inch)",
-                        "Actual Differential Deflections  (Inch)", r.AllowDeflEDShort,
-                        r.AllowDeflEDLong, r.NetDeflEDShort, r.NetDeflEDLong});
-    ShearBlock(w, {"Shear Analysis - Compressible Soils Mode (Edge Down)",
-                   "Maximum Shear, Short Direction", r.ShearForceEDShort, r.ShearForceEDLong,
-                   r.AllowShearShort, r.AllowShearLong, r.ShearEDShort, r.ShearEDLong});
-    w.End(lastPage);
+    DrawFittedSheet(
+        page, heights, "RIBBED FOUNDATION - RESULTS OF ANALYSIS continued", lastPage,
+        [&](PageWriter& w) {
+            MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Edge Down)", useBeta,
+                          CompressibleBetaNote);
+            Moments(w, r.MomentEDShort, r.MomentEDLong);
+            StressRows(w, r,
+                       {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
+                        r.StressTopEDShort, r.StressTopEDLong, r.StressBotEDShort,
+                        r.StressBotEDLong, "###,##0.00#"});
+            DeflectionBlock(
+                w, {"Differential Deflection Analysis - Compressible Soils Mode (Edge Down)",
+                    page.record.DefCLSettle, "Allowable Differential Deflection controlled by",
+                    r.StiffBasisEDShort, r.StiffBasisEDLong,
+                    "Allowable Differential Deflections  (Inch)",
+                    "Actual Differential Deflections  (Inch)", r.AllowDeflEDShort,
+                    r.AllowDeflEDLong, r.NetDeflEDShort, r.NetDeflEDLong});
+            ShearBlock(w,
+                       {"Shear Analysis - Compressible Soils Mode (Edge Down)",
+                        "Maximum Shear, Short Direction", r.ShearForceEDShort, r.ShearForceEDLong,
+                        r.AllowShearShort, r.AllowShearLong, r.ShearEDShort, r.ShearEDLong});
+        });
 }
 
 void PrintUROA(PageContext& page, const LineHeights& heights, bool lastPage) {
     const ResultsRecord& r = page.results;
     const bool useBeta = page.settings.UseBeta == 1;
-    PageWriter w(page, heights);
-    w.SetLineStep(ResultsLineStep);
-    w.Begin("UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS");
-    UniformHead(w);
-    PairRow(w, "Beta Distance Effective Prestress Force (K)", F(r.UTForceNetShort, "#,##0.0"),
-            F(r.UTForceNetLong, "#,##0.0"));
-    PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.UTPsCenterShort, "#,##0"),
-            F(r.UTPsCenterLong, "#,##0"));
-    PairRow(w, "Beta Distance Effective Prestress  (PSI)",
-            F((r.UTForceNetShort * 1000) / r.UTAreaShort, "#,##0"),
-            F((r.UTForceNetLong * 1000) / r.UTAreaLong, "#,##0"));
-    BetweenBlocks(w);
+    DrawFittedSheet(
+        page, heights, "UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS", false,
+        [&](PageWriter& w) {
+            UniformHead(w);
+            PairRow(w, "Beta Distance Effective Prestress Force (K)",
+                    F(r.UTForceNetShort, "#,##0.0"), F(r.UTForceNetLong, "#,##0.0"));
+            PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.UTPsCenterShort, "#,##0"),
+                    F(r.UTPsCenterLong, "#,##0"));
+            PairRow(w, "Beta Distance Effective Prestress  (PSI)",
+                    F((r.UTForceNetShort * 1000) / r.UTAreaShort, "#,##0"),
+                    F((r.UTForceNetLong * 1000) / r.UTAreaLong, "#,##0"));
+            BetweenBlocks(w);
 
-    MomentHeading(w, "Moment Analysis - Center Lift Mode", useBeta, BetaNote);
-    CenterLiftMoments(w, r.MomentCLShort, r.MomentCLLong,
-                      " (calculated with Em=5.0 per PTI 4.3.2)");
-    StressRows(w, r,
-               {"Tension in Top Fiber (KSI)", "Compression in Bottom Fiber (KSI)",
-                r.UTStressTopCLShort, r.UTStressTopCLLong, r.UTStressBotCLShort,
-                r.UTStressBotCLLong, "###,##0.000"});
-    StiffnessBlock(w, {"Stiffness Analysis - Center Lift Mode", page.record.DefCenter,
-                       r.UTInertiaShort, r.UTInertiaLong, r.UTReqInertiaCLShort,
-                       r.UTReqInertiaCLLong, r.UTStiffBasisShort, r.UTStiffBasisLong});
-    ShearBlock(w, {"Shear Analysis - Center Lift Mode", "Maximum Shear, Short Direction",
-                   r.ShearForceCLShort, r.ShearForceCLLong, r.UTAllowShearShort, r.UTAllowShearLong,
-                   r.UTShearCLShort, r.UTShearCLLong});
-    w.End(false);
-
-    w.Begin("UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS continued");
-    CrackedBlock(w, "Cracked Section Analysis - Center Lift Mode", r.UTCrackCapacityCLShort,
-                 r.UTCrackCapacityCLLong, r.UTCrackDemandCLShort, r.UTCrackDemandCLLong);
-    MomentHeading(w, "Moment Analysis - Edge Lift Mode", useBeta, BetaNote);
-    Moments(w, r.MomentELShort, r.MomentELLong);
-    StressRows(w, r,
-               {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
-                r.UTStressBotELShort, r.UTStressBotELLong, r.UTStressTopELShort,
-                r.UTStressTopELLong, "###,##0.000"});
-    StiffnessBlock(w, {"Stiffness Analysis - Edge Lift Mode", page.record.DefEdge, r.UTInertiaShort,
-                       r.UTInertiaLong, r.UTReqInertiaELShort, r.UTReqInertiaELLong,
-                       r.UTStiffBasisShort, r.UTStiffBasisLong});
-    ShearBlock(w, {"Shear Stress Analysis - Edge Lift Mode", "Maximum Shear, Short Direction",
-                   r.ShearForceELShort, r.ShearForceELLong, r.UTAllowShearShort, r.UTAllowShearLong,
-                   r.UTShearELShort, r.UTShearELLong});
-    BetweenBlocks(w);
-    CrackedBlock(w, "Cracked Section Analysis - Edge Lift Mode", r.UTCrackCapacityELShort,
-                 r.UTCrackCapacityELLong, r.UTCrackDemandELShort, r.UTCrackDemandELLong);
-    w.End(lastPage);
+            MomentHeading(w, "Moment Analysis - Center Lift Mode", useBeta, BetaNote);
+            CenterLiftMoments(w, r.MomentCLShort, r.MomentCLLong,
+                              " (calculated with Em=5.0 per PTI 4.3.2)");
+            StressRows(w, r,
+                       {"Tension in Top Fiber (KSI)", "Compression in Bottom Fiber (KSI)",
+                        r.UTStressTopCLShort, r.UTStressTopCLLong, r.UTStressBotCLShort,
+                        r.UTStressBotCLLong, "###,##0.000"});
+            StiffnessBlock(w, {"Stiffness Analysis - Center Lift Mode", page.record.DefCenter,
+                               r.UTInertiaShort, r.UTInertiaLong, r.UTReqInertiaCLShort,
+                               r.UTReqInertiaCLLong, r.UTStiffBasisShort, r.UTStiffBasisLong});
+            ShearBlock(w, {"Shear Analysis - Center Lift Mode", "Maximum Shear, Short Direction",
+                           r.ShearForceCLShort, r.ShearForceCLLong, r.UTAllowShearShort,
+                           r.UTAllowShearLong, r.UTShearCLShort, r.UTShearCLLong});
+        });
+    DrawFittedSheet(
+        page, heights, "UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS continued", lastPage,
+        [&](PageWriter& w) {
+            CrackedBlock(w, "Cracked Section Analysis - Center Lift Mode", r.UTCrackCapacityCLShort,
+                         r.UTCrackCapacityCLLong, r.UTCrackDemandCLShort, r.UTCrackDemandCLLong);
+            MomentHeading(w, "Moment Analysis - Edge Lift Mode", useBeta, BetaNote);
+            Moments(w, r.MomentELShort, r.MomentELLong);
+            StressRows(w, r,
+                       {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
+                        r.UTStressBotELShort, r.UTStressBotELLong, r.UTStressTopELShort,
+                        r.UTStressTopELLong, "###,##0.000"});
+            StiffnessBlock(w, {"Stiffness Analysis - Edge Lift Mode", page.record.DefEdge,
+                               r.UTInertiaShort, r.UTInertiaLong, r.UTReqInertiaELShort,
+                               r.UTReqInertiaELLong, r.UTStiffBasisShort, r.UTStiffBasisLong});
+            ShearBlock(w,
+                       {"Shear Stress Analysis - Edge Lift Mode", "Maximum Shear, Short Direction",
+                        r.ShearForceELShort, r.ShearForceELLong, r.UTAllowShearShort,
+                        r.UTAllowShearLong, r.UTShearELShort, r.UTShearELLong});
+            BetweenBlocks(w);
+            CrackedBlock(w, "Cracked Section Analysis - Edge Lift Mode", r.UTCrackCapacityELShort,
+                         r.UTCrackCapacityELLong, r.UTCrackDemandELShort, r.UTCrackDemandELLong);
+        });
 }
 
 void PrintUROA_Comp(PageContext& page, const LineHeights& heights, bool lastPage) {
     const ResultsRecord& r = page.results;
     const bool useBeta = page.settings.UseBeta == 1;
     const bool edgeDown = page.record.CLSettleState == 1;
-    PageWriter w(page, heights);
-    w.SetLineStep(ResultsLineStep);
-    w.Begin("UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS");
-    UniformHead(w);
-    if (!edgeDown) {
-        PairRow(w, "Beta Distance Effective Prestress Force - Center Down (K)",
-                F(r.UTForceNetCDShort, "#,##0.0"), F(r.UTForceNetCDLong, "#,##0.0"));
-    }
-    PairRow(w, "Beta Distance Effective Prestress Force - Center / Edge (K)",
-            DownPair(r.UTForceNetCDShort, r.UTForceNetEDShort, "#,##0.0"),
-            DownPair(r.UTForceNetCDLong, r.UTForceNetEDLong, "#,##0.0"));
-    PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.UTPsCenterShort, "#,##0"),
-            F(r.UTPsCenterLong, "#,##0"));
-    if (!edgeDown) {
-        // The center down prestress line divides the edge down forces, as the page always has.
-        PairRow(w, "Beta Distance Effective Prestress - Center Down (PSI)",
-                F((r.UTForceNetEDShort * 1000) / r.UTAreaShort, "#,##0"),
-                F((r.UTForceNetEDLong * 1000) / r.UTAreaLong, "#,##0"));
-    }
-    PairRow(w, "Beta Distance Effective Prestress - Center / Edge (PSI)",
-            DownPair((r.UTForceNetCDShort * 1000) / r.UTAreaShort,
-                     (r.UTForceNetEDShort * 1000) / r.UTAreaShort, "#,##0"),
-            DownPair((r.UTForceNetCDLong * 1000) / r.UTAreaLong,
-                     (r.UTForceNetEDLong * 1000) / r.UTAreaLong, "#,##0"));
-    BetweenBlocks(w);
+    DrawFittedSheet(
+        page, heights, "UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS",
+        edgeDown ? false : lastPage, [&](PageWriter& w) {
+            UniformHead(w);
+            if (!edgeDown) {
+                PairRow(w, "Beta Distance Effective Prestress Force - Center Down (K)",
+                        F(r.UTForceNetCDShort, "#,##0.0"), F(r.UTForceNetCDLong, "#,##0.0"));
+            }
+            PairRow(w, "Beta Distance Effective Prestress Force - Center / Edge (K)",
+                    DownPair(r.UTForceNetCDShort, r.UTForceNetEDShort, "#,##0.0"),
+                    DownPair(r.UTForceNetCDLong, r.UTForceNetEDLong, "#,##0.0"));
+            PairRow(w, "Minimum Effective Prestress  (PSI)", F(r.UTPsCenterShort, "#,##0"),
+                    F(r.UTPsCenterLong, "#,##0"));
+            if (!edgeDown) {
+                // The center down prestress line divides the edge down forces, as the page always
+                // has.
+                PairRow(w, "Beta Distance Effective Prestress - Center Down (PSI)",
+                        F((r.UTForceNetEDShort * 1000) / r.UTAreaShort, "#,##0"),
+                        F((r.UTForceNetEDLong * 1000) / r.UTAreaLong, "#,##0"));
+            }
+            PairRow(w, "Beta Distance Effective Prestress - Center / Edge (PSI)",
+                    DownPair((r.UTForceNetCDShort * 1000) / r.UTAreaShort,
+                             (r.UTForceNetEDShort * 1000) / r.UTAreaShort, "#,##0"),
+                    DownPair((r.UTForceNetCDLong * 1000) / r.UTAreaLong,
+                             (r.UTForceNetEDLong * 1000) / r.UTAreaLong, "#,##0"));
+            BetweenBlocks(w);
 
-    MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Center Down)", useBeta,
-                  CompressibleBetaNote);
-    Moments(w, r.MomentCDShort, r.MomentCDLong);
-    StressRows(w, r,
-               {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
-                r.UTStressBotCDShort, r.UTStressBotCDLong, r.UTStressTopCDShort,
-                r.UTStressTopCDLong, "###,##0.00#"});
-    DeflectionBlock(w, {"Differential Deflection Analysis - Compressible Soils Mode (Center Down)",
-                        page.record.DefSettle, "Allowable Differential Deflections controlled by",
-                        r.UTStiffBasisCDShort, r.UTStiffBasisCDLong,
-                        "Allowable Differential Deflections  (Inches)",
-                        "Actual Differential Deflections  (Inches)", r.UTAllowDeflCDShort,
-                        r.UTAllowDeflCDLong, r.UTNetDeflCDShort, r.UTNetDeflCDLong});
-    ShearBlock(w, {"Shear Stress Analysis - Compressible Soils Mode (Center Down)",
-                   "Maximum Shear, Short Dirextion", r.ShearForceCDShort, r.ShearForceCDLong,
-                   r.UTAllowShearShort, r.UTAllowShearLong, r.UTShearCDShort, r.UTShearCDLong});
+            MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Center Down)", useBeta,
+                          CompressibleBetaNote);
+            Moments(w, r.MomentCDShort, r.MomentCDLong);
+            StressRows(w, r,
+                       {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
+                        r.UTStressBotCDShort, r.UTStressBotCDLong, r.UTStressTopCDShort,
+                        r.UTStressTopCDLong, "###,##0.00#"});
+            DeflectionBlock(
+                w, {"Differential Deflection Analysis - Compressible Soils Mode (Center Down)",
+                    page.record.DefSettle, "Allowable Differential Deflections controlled by",
+                    r.UTStiffBasisCDShort, r.UTStiffBasisCDLong,
+                    "Allowable Differential Deflections  (Inches)",
+                    "Actual Differential Deflections  (Inches)", r.UTAllowDeflCDShort,
+                    r.UTAllowDeflCDLong, r.UTNetDeflCDShort, r.UTNetDeflCDLong});
+            ShearBlock(w, {"Shear Stress Analysis - Compressible Soils Mode (Center Down)",
+                           "Maximum Shear, Short Dirextion", r.ShearForceCDShort,
+                           r.ShearForceCDLong, r.UTAllowShearShort, r.UTAllowShearLong,
+                           r.UTShearCDShort, r.UTShearCDLong});
+        });
     if (!edgeDown) {
-        w.End(lastPage);
         return;
     }
-    w.End(false);
-
-    w.Begin("UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS continued");
-    MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Edge Down)", useBeta,
-                  CompressibleBetaNote);
-    Moments(w, r.MomentEDShort, r.MomentEDLong);
-    StressRows(w, r,
-               {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
-                r.UTStressTopEDShort, r.UTStressTopEDLong, r.UTStressBotEDShort,
-                r.UTStressBotEDLong, "###,##0.00#"});
-    DeflectionBlock(w, {"Differential Deflection Analysis - Compressible Soils Mode (Edge Down)",
-                        page.record.DefCLSettle, "Allowable Differential Deflection controlled by",
-                        r.UTStiffBasisEDShort, r.UTStiffBasisEDLong,
-                        "Allowable Differential Deflections  (Inch)",
-                        "Actual Differential Deflections  (Inch)", r.UTAllowDeflEDShort,
-                        r.UTAllowDeflEDLong, r.UTNetDeflEDShort, r.UTNetDeflEDLong});
-    ShearBlock(w, {"Shear Analysis - Compressible Soils Mode (Edge Down)",
-                   "Maximum Shear, Short Direction", r.ShearForceEDShort, r.ShearForceEDLong,
-                   r.UTAllowShearShort, r.UTAllowShearLong, r.UTShearEDShort, r.UTShearEDLong});
-    w.End(lastPage);
+    DrawFittedSheet(
+        page, heights, "UNIFORM THICKNESS FOUNDATION - RESULTS OF ANALYSIS continued", lastPage,
+        [&](PageWriter& w) {
+            MomentHeading(w, "Moment Analysis - Compressible Soils Mode (Edge Down)", useBeta,
+                          CompressibleBetaNote);
+            Moments(w, r.MomentEDShort, r.MomentEDLong);
+            StressRows(w, r,
+                       {"Tension in Bottom Fiber (KSI)", "Compression in Top Fiber (KSI)",
+                        r.UTStressTopEDShort, r.UTStressTopEDLong, r.UTStressBotEDShort,
+                        r.UTStressBotEDLong, "###,##0.00#"});
+            DeflectionBlock(
+                w, {"Differential Deflection Analysis - Compressible Soils Mode (Edge Down)",
+                    page.record.DefCLSettle, "Allowable Differential Deflection controlled by",
+                    r.UTStiffBasisEDShort, r.UTStiffBasisEDLong,
+                    "Allowable Differential Deflections  (Inch)",
+                    "Actual Differential Deflections  (Inch)", r.UTAllowDeflEDShort,
+                    r.UTAllowDeflEDLong, r.UTNetDeflEDShort, r.UTNetDeflEDLong});
+            ShearBlock(w, {"Shear Analysis - Compressible Soils Mode (Edge Down)",
+                           "Maximum Shear, Short Direction", r.ShearForceEDShort,
+                           r.ShearForceEDLong, r.UTAllowShearShort, r.UTAllowShearLong,
+                           r.UTShearEDShort, r.UTShearEDLong});
+        });
 }

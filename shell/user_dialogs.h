@@ -6,7 +6,8 @@
 // Message boxes as requests of the program's logic. The desktop program answers them with its
 // toolkit's boxes, the command line on standard error, the tests with a script.
 
-enum class MessageIcon { Critical, Exclamation, Information, Question };
+// `None` is a plain box without a symbol.
+enum class MessageIcon { Critical, Exclamation, Information, Question, None };
 
 struct MessageRequest {
     MessageIcon icon = MessageIcon::Information;

@@ -18,9 +18,10 @@ double Place(std::string& stored, double screenSize, double windowSize) {
 
 } // namespace
 
-WindowPlace PlaceMainWindow(ProgramSettings& settings, double screenWidth, double screenHeight) {
+WindowPlace PlaceMainWindow(ProgramSettings& settings, double screenWidth, double screenHeight,
+                            double windowWidth, double windowHeight) {
     WindowPlace place;
-    place.left = Place(settings.StartX, screenWidth, MainWindowWidth);
-    place.top = Place(settings.StartY, screenHeight, MainWindowHeight);
+    place.left = Place(settings.StartX, screenWidth, windowWidth);
+    place.top = Place(settings.StartY, screenHeight, windowHeight);
     return place;
 }

@@ -13,6 +13,9 @@ struct WindowPlace {
     double top = 0;
 };
 
-// A `StartX` that is empty or outside 0 to the screen's width gives the centre, which `StartX`
-// then holds; `StartY` likewise with the heights.
-WindowPlace PlaceMainWindow(ProgramSettings& settings, double screenWidth, double screenHeight);
+// A `StartX` that is empty or outside 0 to the screen's width gives the centre for a window of
+// `windowWidth`, which `StartX` then holds; `StartY` likewise with the heights. The window's size
+// is the main window's own unless a front end draws it larger.
+WindowPlace PlaceMainWindow(ProgramSettings& settings, double screenWidth, double screenHeight,
+                            double windowWidth = MainWindowWidth,
+                            double windowHeight = MainWindowHeight);

@@ -51,6 +51,8 @@ AnalysisResult AnalysisReset(Program& program, ShellServices& services) {
     } catch (const ArithmeticFault& fault) {
         return EndWithFault(services, FaultKindName(fault.kind) +
                                           " in the beam depth ratio of the design exceptions");
+    } catch (const ResultsValueFault& fault) {
+        return EndWithFault(services, FaultKindName(fault.kind) + ResultsValueFaultPlace);
     }
     ArrangeResultsScreen(program.output, program.record, program.mainInnerWidth);
 

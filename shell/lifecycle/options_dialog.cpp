@@ -79,6 +79,16 @@ const char* const RuledControls[] = {"optTendType",     "optSlabRefType",  "cbSl
                                      "optBeamSpacing",  "optSubgradetype", "cbUseDeadLoad",
                                      "cbCLSettleState", "optPreLineLoad",  "cbLineLoadType"};
 
+// LoadOptionValues, then the switches of the loaded choices: the fields they switch off are
+// blank already and are disabled too, the ones they switch on enabled.
+void FillOptionsForm(Program& program, ShellServices& services) {
+    FormModel& form = program.options.form;
+    LoadOptionValues(services, program.settings, form);
+    for (const char* ruled : RuledControls) {
+        ApplyRule(form, ruled, nullptr);
+    }
+}
+
 const FormModel& InputCaptions() {
     static const FormModel form = MakeInputForm();
     return form;
@@ -131,11 +141,7 @@ int OptionsTabShown(const OptionsDialog& dialog) {
 }
 
 void ShowOptionsDialog(Program& program, ShellServices& services, int tab) {
-    LoadOptionValues(services, program.settings, program.options.form);
-    // The fields the loaded choices switch off are blank already; they are disabled too.
-    for (const char* ruled : RuledControls) {
-        ApplyRule(program.options.form, ruled, nullptr);
-    }
+    FillOptionsForm(program, services);
     program.options.form["tabOptions"].selectedIndex = tab;
     program.options.visible = true;
 }
@@ -143,6 +149,27 @@ void ShowOptionsDialog(Program& program, ShellServices& services, int tab) {
 void ChangeOptionsControl(OptionsDialog& dialog, int tab) {
     dialog.TabChanged.at(static_cast<std::size_t>(tab)) = true;
     dialog.applyEnabled = true;
+}
+
+void ChangeOptionsText(OptionsDialog& dialog, const std::string& box, const std::string& text) {
+    dialog.form[box].text = text;
+    ChangeOptionsControl(dialog, OptionsTabOfControl(box));
+}
+
+void ChooseOptionsListItem(OptionsDialog& dialog, const std::string& list, int index) {
+    Control& control = dialog.form[list];
+    if (index < 0 || index >= static_cast<int>(control.items.size())) {
+        return;
+    }
+    control.selectedIndex = index;
+    control.text = control.items[static_cast<std::size_t>(index)];
+    ChangeOptionsControl(dialog, OptionsTabOfControl(list));
+}
+
+void ChooseDefaultFolder(OptionsDialog& dialog, const std::string& folder) {
+    dialog.form["dlbDefFilePath"].text = folder;
+    dialog.form["lblDefFilePath"].caption = folder;
+    ChangeOptionsControl(dialog, ProgramTab);
 }
 
 bool OptionsOK(Program& program, ShellServices& services, const AssociationTarget& association) {
@@ -166,7 +193,9 @@ bool OptionsOK(Program& program, ShellServices& services, const AssociationTarge
     if (form["cbAssociate"].checked) {
         WriteAssociation(services, association);
     }
+    // With every flag cleared nothing is left for Apply: it comes back with the next change.
     dialog.TabChanged.fill(false);
+    dialog.applyEnabled = false;
     dialog.visible = false;
     return true;
 }
@@ -190,7 +219,7 @@ void OptionsApply(Program& program, ShellServices& services, const AssociationTa
     if (form["cbRestore"].checked) {
         RestoreAndSaveAll(program, services);
         SetStartFolders(program);
-        LoadOptionValues(services, program.settings, form);
+        FillOptionsForm(program, services);
         dialog.TabChanged.fill(false);
         dialog.applyEnabled = false;
     } else {

@@ -40,6 +40,17 @@ void ShowOptionsDialog(Program& program, ShellServices& services, int tab = 0);
 // offered. The control's own state is changed by the caller.
 void ChangeOptionsControl(OptionsDialog& dialog, int tab);
 
+// The user typed into a text box of the dialog: its text, then its tab's flag and Apply.
+void ChangeOptionsText(OptionsDialog& dialog, const std::string& box, const std::string& text);
+
+// The user chose item `index` of a list (`cboDirLineLoad`): the list shows it, its tab's flag is
+// set and Apply offered. An index outside the list changes nothing.
+void ChooseOptionsListItem(OptionsDialog& dialog, const std::string& list, int index);
+
+// The user chose another start folder in the folder list: the list and `lblDefFilePath` show
+// it, and the program tab is flagged; OK or Apply make it `FilePath`.
+void ChooseDefaultFolder(OptionsDialog& dialog, const std::string& folder);
+
 // A click on a check box or option button of the dialog: it is ticked or chosen, the fields it
 // switches on and off follow as on the input screen (a field switched on shows the default
 // record's value), and its tab's flag is set.
@@ -52,7 +63,8 @@ int OptionsTabOfControl(const std::string& control);
 // OK: clears the recent files when asked; restores the factory defaults when asked, ignoring
 // every other edit; otherwise the blank check of every tab (a blank keeps the dialog open on its
 // field) and every tab saved. Then the file dialogs start in `FilePath`, the association is
-// written when asked, the flags are cleared and the dialog hidden. Gives whether it closed.
+// written when asked, the flags are cleared, Apply withdrawn and the dialog hidden. Gives
+// whether it closed.
 //
 // A value that cannot be stored throws RunTimeError, as SaveOptionValues does.
 bool OptionsOK(Program& program, ShellServices& services, const AssociationTarget& association);

@@ -1,11 +1,11 @@
 #include "shell/lifecycle/print_commands.h"
 
 void PrintCommand(Program& program, const std::vector<std::string>& fonts,
-                  const std::string& printerName) {
+                  const std::string& printerName, PrintPath path) {
     if (!program.project.printEnabled) {
         return;
     }
-    OpenPrintDialog(program.print, program.record, fonts, printerName);
+    OpenPrintDialog(program.print, program.record, fonts, printerName, path);
 }
 
 void ChangeDefaultReport(Program& program, ShellServices& services) {

@@ -11,9 +11,10 @@
 // printer itself (its fonts, its name, drawing the pages) belongs to the caller.
 
 // `mnuPrint` and the toolbar's Print: the dialog, its boxes set for the range that stands, with
-// the printer's fonts and name. Nothing without results to print.
+// the printer's fonts and name, and the command's path for the title of a printing failure.
+// Nothing without results to print.
 void PrintCommand(Program& program, const std::vector<std::string>& fonts,
-                  const std::string& printerName);
+                  const std::string& printerName, PrintPath path);
 
 // "Change Default Report": the options dialog on its program tab, where the default report's
 // pages are chosen; the next Print reads them.

@@ -62,12 +62,23 @@ void OpenProjectReset(Program& program, ShellServices& services, const std::stri
     ShowFirstPage(program, services);
 }
 
-// Reads the project at `path` into the record and shows it. The record changes only when the
-// whole file has been read.
-void OpenPath(Program& program, ShellServices& services, const std::string& path) {
-    ProjectState& project = program.project;
+// When the project takes the path it opens: the file dialog gives it before the file is read, so
+// that a failed open keeps the path chosen; a recent file or the command line gives it only once
+// the file has been read, so that a failed open keeps the project's former path.
+enum class PathTaken { BeforeReading, AfterReading };
+
+void TakePath(ProjectState& project, const std::string& path) {
     project.ProjFilePath = path;
     project.ProjFileTitle = TitleOf(path);
+}
+
+// Reads the project at `path` into the record and shows it. The record changes only when the
+// whole file has been read.
+void OpenPath(Program& program, ShellServices& services, const std::string& path, PathTaken taken) {
+    ProjectState& project = program.project;
+    if (taken == PathTaken::BeforeReading) {
+        TakePath(project, path);
+    }
     try {
         const auto tell = [&services](const OldVersionNotice& notice) {
             services.dialogs.ShowMessage({MessageIcon::Information, notice.title, notice.text});
@@ -76,6 +87,9 @@ void OpenPath(Program& program, ShellServices& services, const std::string& path
         const int version =
             ReadDesignFile(path, AllSections, read, program.settings.defaults, tell);
         program.record = read;
+        if (taken == PathTaken::AfterReading) {
+            TakePath(project, path);
+        }
         project.dialogFolder = FolderOf(path);
         program.input.dialogFolder = FolderOf(path);
         OpenProjectReset(program, services, project.ProjFileTitle, path);
@@ -144,16 +158,18 @@ bool SaveToNewPath(Program& program, ShellServices& services, const std::string&
 }
 
 ProjectKind KindOfToolTip(const std::string& toolTip) {
-    if (toolTip == "New Compressible Soil Project") {
-        return ProjectKind::Compressible;
-    }
-    if (toolTip == "New Line Load Project") {
-        return ProjectKind::LineLoad;
+    for (const ProjectKind kind :
+         {ProjectKind::Expansive, ProjectKind::Compressible, ProjectKind::LineLoad}) {
+        if (toolTip == NewKindCaption(kind)) {
+            return kind;
+        }
     }
     return ProjectKind::Expansive;
 }
 
-std::string ToolTipOfKind(ProjectKind kind) {
+} // namespace
+
+std::string NewKindCaption(ProjectKind kind) {
     switch (kind) {
     case ProjectKind::Compressible:
         return "New Compressible Soil Project";
@@ -165,8 +181,6 @@ std::string ToolTipOfKind(ProjectKind kind) {
     return "New Expansive Soil Project";
 }
 
-} // namespace
-
 std::string MainCaption(const ProjectState& project) {
     std::string caption = ProductCaption;
     caption += project.ProjFileTitle.empty() ? " - Untitled" : " - " + project.ProjFileTitle;
@@ -177,7 +191,7 @@ std::string MainCaption(const ProjectState& project) {
 }
 
 WindowPlace LoadMainWindow(Program& program, ShellServices& services, double screenWidth,
-                           double screenHeight) {
+                           double screenHeight, double windowWidth, double windowHeight) {
     (void)services;
     ProjectState& project = program.project;
     project = ProjectState{};
@@ -186,7 +200,7 @@ WindowPlace LoadMainWindow(Program& program, ShellServices& services, double scr
     project.caption = ProductCaption;
     program.input.visible = false;
     program.output.visible = false;
-    return PlaceMainWindow(program.settings, screenWidth, screenHeight);
+    return PlaceMainWindow(program.settings, screenWidth, screenHeight, windowWidth, windowHeight);
 }
 
 Answer SaveCurrentFile(Program& program, ShellServices& services, const std::string& prompt) {
@@ -257,7 +271,7 @@ void NewProjectCommand(Program& program, ShellServices& services, ProjectKind ki
 }
 
 void ChooseNewKind(Program& program, ShellServices& services, ProjectKind kind) {
-    program.project.newToolTip = ToolTipOfKind(kind);
+    program.project.newToolTip = NewKindCaption(kind);
     NewProjectCommand(program, services, kind);
 }
 
@@ -277,12 +291,12 @@ void OpenProject(Program& program, ShellServices& services) {
     if (!path) {
         return; // cancelled
     }
-    OpenPath(program, services, *path);
+    OpenPath(program, services, *path, PathTaken::BeforeReading);
 }
 
 void OpenRecentProject(Program& program, ShellServices& services, const std::string& path) {
     program.project.ProjectChanged = 0;
-    OpenPath(program, services, path);
+    OpenPath(program, services, path, PathTaken::AfterReading);
 }
 
 void OpenAssociatedProject(Program& program, ShellServices& services,

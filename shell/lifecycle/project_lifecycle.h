@@ -18,9 +18,11 @@ inline constexpr const char* OpenPrompt = "Save before opening project?";
 inline constexpr const char* ExitPrompt = "Save before Exit?";
 
 // The main window as it loads: the file dialogs in `FilePath`, the product caption, the commands
-// that need a project disabled, and its place on a screen of that size in twips.
+// that need a project disabled, and its place on a screen of that size in twips, for a window of
+// the given size.
 WindowPlace LoadMainWindow(Program& program, ShellServices& services, double screenWidth,
-                           double screenHeight);
+                           double screenHeight, double windowWidth = MainWindowWidth,
+                           double windowHeight = MainWindowHeight);
 
 // Asks about unsaved changes, only when there are any: Yes saves (after the blank check, which
 // turns Yes into Cancel when it finds a blank field; a project never saved goes through the save
@@ -33,6 +35,8 @@ void NewProjectReset(Program& program, ShellServices& services, ProjectKind kind
 // The New menu items and the toolbar: the prompt, then the new project. Choosing a kind in the
 // toolbar's list makes it the button's tooltip; a click on the button starts that kind again.
 void NewProjectCommand(Program& program, ShellServices& services, ProjectKind kind);
+// The item of the toolbar's list for a kind, which is also the button's tooltip once chosen.
+std::string NewKindCaption(ProjectKind kind);
 void ChooseNewKind(Program& program, ShellServices& services, ProjectKind kind);
 void ClickNewButton(Program& program, ShellServices& services);
 
@@ -47,7 +51,8 @@ void OpenRecentCommand(Program& program, ShellServices& services, int index);
 // Opening a path, with or without the dialog, and the program's start with a path on its
 // command line (one pair of surrounding quotation marks is removed). An older version is
 // announced and leaves the project changed. A failure shows "Error opening file - N", hides the
-// input and leaves the caption "Korvath 3.0 - ".
+// input and leaves the caption "Korvath 3.0 - "; the path chosen in the dialog stays the
+// project's, while a recent file or the command line leaves the former path in place.
 void OpenProject(Program& program, ShellServices& services);
 void OpenRecentProject(Program& program, ShellServices& services, const std::string& path);
 void OpenAssociatedProject(Program& program, ShellServices& services,

@@ -170,7 +170,12 @@ TEST(DesktopProgram, OptionsApplyWritesTheTabInFront) {
     EXPECT_EQ(d.shell.section("DefMatProp").at("Fpc"), "4500");
     EXPECT_EQ(d.program.settings.defaults.Fpc, 4500);
     EXPECT_FALSE(apply->isEnabled());
-    options->hide();
+
+    // Escape is the dialog's Cancel: the options controller hides it.
+    EXPECT_TRUE(d.program.options.visible);
+    QTest::keyClick(options, Qt::Key_Escape);
+    EXPECT_FALSE(options->isVisible());
+    EXPECT_FALSE(d.program.options.visible);
 }
 
 TEST(DesktopProgram, EveryControlOfTheInputModelStandsOnItsPageOnce) {

@@ -17,6 +17,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTimer>
 #include <cstdio>
 #include <gtest/gtest.h>
 
@@ -143,7 +144,7 @@ TEST(ResultsWindow, ASummaryLineJumpsToItsTabAndDisplayAllListsEveryValue) {
 TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
     Analysed a("compressible_edge_down");
     PrintView* print = a.window.printView();
-    PrintCommand(a.program, {"Arial"}, "PDF file");
+    PrintCommand(a.program, {"Arial"}, "PDF file", PrintPath::Menu);
     print->Refresh();
     auto* entire = print->findChild<QAbstractButton*>("Option1(1)");
     ASSERT_TRUE(entire);
@@ -162,6 +163,15 @@ TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
     }
     EXPECT_FALSE(a.program.print.busyPointer);
 
+    // A PDF that cannot be written is a printing failure under the title of the menu's path.
+    PrintCommand(a.program, {"Arial"}, "PDF file", PrintPath::Menu);
+    const auto nowhere = a.scratch.path() / "no such folder" / "report.pdf";
+    EXPECT_FALSE(print->SaveAsPdf(QString::fromStdString(nowhere.string())));
+    ASSERT_FALSE(a.shell.dialogs.messages.empty());
+    EXPECT_EQ(a.shell.dialogs.messages.back().title, "Critical Error");
+    EXPECT_EQ(a.shell.dialogs.messages.back().text, "Path not found");
+    EXPECT_FALSE(a.program.print.busyPointer);
+
     // The selected range with only the uniform pages ticked cannot be: they are disabled for
     // this project; the default report with only the line load page warns.
     a.program.settings.options.DefaultPages = {0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
@@ -169,4 +179,30 @@ TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
     EXPECT_FALSE(print->SaveAsPdf(QString::fromStdString((a.scratch.path() / "no.pdf").string())));
     EXPECT_EQ(a.shell.dialogs.messages.back().title, "Print Warning");
     EXPECT_FALSE(std::filesystem::exists(a.scratch.path() / "no.pdf"));
+}
+
+TEST(PrintWindow, WithoutResultsThePrintCommandShowsNoDialog) {
+    ScratchFolder scratch;
+    ShellFixture shell;
+    Program program;
+    MainWindow window{program, shell.services, {scratch.path() / "share", "korvath3"}};
+    LoadSettings(shell.services, program.settings);
+    window.Place();
+    window.Refresh();
+    NewProjectReset(program, shell.services, ProjectKind::Expansive);
+    window.Refresh();
+    ASSERT_FALSE(program.project.printEnabled);
+
+    // Should the dialog come up, it is closed again at once, so that the test cannot hang.
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        if (window.printView()->isVisible()) {
+            shown = true;
+            window.printView()->reject();
+        }
+    });
+    window.printView()->Open(PrintPath::Toolbar);
+    QApplication::processEvents();
+    EXPECT_FALSE(shown);
+    EXPECT_FALSE(program.print.visible);
 }

@@ -126,6 +126,34 @@ TEST(Executable, ReportWritesAWholePdfOrNothing) {
               2); // the settings and the first PDF, no partial file
 }
 
+TEST(Executable, ABrokenSettingsFileIsLeftAsItIsAndTheRunTakesTheFactoryDefaults) {
+    ScratchFolder scratch;
+    const auto settings = scratch.path() / "settings.conf";
+    const std::string example = ExamplePath("expansive_ribbed.kvt").string();
+    std::string broken = "[Program%20Data]\nUseBeta=1\n";
+    broken += '\0';
+    broken += "\xff\xfe half a settings file";
+    WriteBytes(settings, broken);
+
+    Outcome run = cli(settings, "analyze '" + example + "'");
+    EXPECT_EQ(run.status, 0) << run.out;
+    const std::string notice = "korvath3-cli: Korvath Settings: The settings file " +
+                               settings.string() +
+                               " is not a settings file. Korvath 3.0 starts with the factory "
+                               "defaults and does not write the file in this run.\n";
+    EXPECT_EQ(run.out.find(notice), 0u) << run.out;
+    EXPECT_EQ(run.out.find("Korvath Settings", notice.size()), std::string::npos);
+    EXPECT_NE(run.out.find("Options:    UseBeta 0, UseBeamOnly 0, ShowDD 0"), std::string::npos);
+    EXPECT_EQ(FileBytes(settings), broken);
+
+    // A new project of the same kind of run takes the factory default record; the file stays.
+    const auto project = scratch.path() / "new.kvt";
+    run = cli(settings, "new --kind expansive -o '" + project.string() + "'");
+    EXPECT_EQ(run.status, 0) << run.out;
+    EXPECT_EQ(FileBytes(settings), broken);
+    EXPECT_TRUE(std::filesystem::exists(project));
+}
+
 // The search as a script runs it: the same JSON on one thread or two, the best written and
 // analysed, and a bad range refused with status 1 and one error object.
 TEST(Executable, OptimizeGivesTheSameAnswerOnOneThreadOrTwo) {

@@ -30,6 +30,8 @@ inline ResultsRecord CompliantResults() {
     r.UTCrackValidELLong = 1;
     r.SpacingShort = 10, r.SpacingLong = 10, r.PsCenterShort = 100, r.PsCenterLong = 100;
     r.UTThickness = 8;
+    // Every section has an area, so that the prestress a force gives on it is a number.
+    r.AreaShort = 3000, r.AreaLong = 2000, r.UTAreaShort = 3840, r.UTAreaLong = 5760;
     return r;
 }
 

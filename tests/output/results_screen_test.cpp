@@ -3,8 +3,12 @@
 
 #include "tests/compliance/compliance_test_support.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -21,6 +25,34 @@ ResultsScreen Filled(const DesignRecord& record, const ResultsRecord& results,
     ResultsScreen screen = LoadResultsScreen();
     FillResults(screen, record, results, settings);
     return screen;
+}
+
+// The row of a page whose fixed caption reads `text`; a failure when the page has none.
+const ResultRow* RowCaptioned(const ResultsScreen& screen, const std::string& frame,
+                              const std::string& text) {
+    for (const ResultRow& row : PageOfFrame(screen.pages, frame).rows) {
+        if (screen.form[row.caption].caption == text) {
+            return &row;
+        }
+    }
+    ADD_FAILURE() << "no row \"" << text << "\" on " << frame;
+    return nullptr;
+}
+
+// The texts of the rows a page shows, top to bottom: the caption, then each value.
+std::vector<std::string> ShownRows(const ResultsScreen& screen, const std::string& frame) {
+    std::vector<std::string> shown;
+    for (const ResultRow& row : PageOfFrame(screen.pages, frame).rows) {
+        if (!IsRowShown(screen.form, row)) {
+            continue;
+        }
+        std::string text = screen.form[row.caption].caption;
+        for (const std::string& value : row.values) {
+            text += " | " + screen.form[value].caption;
+        }
+        shown.push_back(text);
+    }
+    return shown;
 }
 
 // A rectangle of 40 x 60 ft with a 4 in slab and half-inch tendons, and results chosen so that
@@ -139,6 +171,44 @@ TEST(FillResults, EdgeDownPrestressStandsInBracketsAfterCenterDown) {
     EXPECT_FALSE(Visible(screen, "lbleqSV(1)") || Visible(screen, "lbleqBETA(3)"));
 }
 
+TEST(FillResults, EachDownPageShowsItsOwnDeflectionRatioAndDeflections) {
+    DesignRecord record = PlainRibbedRecord();
+    record.SoilType = 1, record.CLSettleState = 1, record.FlatSlab = 1;
+    record.DefSettle = 1200, record.DefCLSettle = 480;
+    ResultsRecord r = CompliantResults();
+    r.NetDeflCDShort = 0.125, r.AllowDeflCDShort = 0.28;
+    r.NetDeflEDShort = 0.375, r.AllowDeflEDShort = 0.9; // L / 480 of a 36 ft width
+    r.NetDeflEDLong = 0.3649, r.AllowDeflEDLong = 1.35; // L / 480 of a 54 ft length
+    r.UTNetDeflEDShort = 0.2, r.UTAllowDeflEDShort = 0.9;
+    const ResultsScreen screen = Filled(record, r);
+
+    // Center down is held to L / 1200, edge down to L / 480; each page names its own ratio.
+    EXPECT_EQ(Text(screen, "lblDefSettle(0)"), "1,200");
+    EXPECT_EQ(Text(screen, "lblDefSettle(1)"), "480");
+    EXPECT_EQ(Text(screen, "lbleqDefSettle(0)"), "1,200");
+    EXPECT_EQ(Text(screen, "lbleqDefSettle(1)"), "480");
+    const std::string ratioCaption = "Based on an allowable deflection of L /";
+    for (const auto& [frame, ratio] : std::vector<std::pair<std::string, std::string>>{
+             {"fraExpOutput(7)", "lblDefSettle(0)"},
+             {"fraExpOutput(8)", "lblDefSettle(1)"},
+             {"fraUTFOutput(6)", "lbleqDefSettle(0)"},
+             {"fraUTFOutput(7)", "lbleqDefSettle(1)"}}) {
+        const ResultRow* row = RowCaptioned(screen, frame, ratioCaption);
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->values, std::vector<std::string>{ratio}) << frame;
+    }
+
+    // The actual and allowable deflections of each mode, to the hundredth of an inch.
+    EXPECT_EQ(Text(screen, "lblcDDS"), "0.13");
+    EXPECT_EQ(Text(screen, "lblAcDDS"), "0.28");
+    EXPECT_EQ(Text(screen, "lblcCLDDS"), "0.38");
+    EXPECT_EQ(Text(screen, "lblcACLDDS"), "0.90");
+    EXPECT_EQ(Text(screen, "lblcCLDDL"), "0.36");
+    EXPECT_EQ(Text(screen, "lblcACLDDL"), "1.35");
+    EXPECT_EQ(Text(screen, "lbleqcCLDD(0)"), "0.20");
+    EXPECT_EQ(Text(screen, "lbleqcCLADD(0)"), "0.90");
+}
+
 TEST(FillResults, EquivalentDepthShowsOnlyForTwoGroupsOfDifferentDepths) {
     DesignRecord record = PlainRibbedRecord();
     record.QS2 = 2, record.DS2 = 24, record.WS2 = 10; // equal depths
@@ -205,6 +275,37 @@ TEST(FillResults, VisibilityFollowsTheOptionsAndTheResults) {
     EXPECT_FALSE(Visible(screen, "lblUseBeta(4)"));
     EXPECT_FALSE(Visible(screen, "lblEm5RuleS"));
     EXPECT_FALSE(Visible(screen, "fraDD(1)"));
+}
+
+TEST(FillResults, DifferentialDeflectionPanelShowsUnderItsTitleOnlyWhenAsked) {
+    const DesignRecord record = PlainRibbedRecord();
+    ResultsRecord r = CompliantResults();
+    r.NetDeflCLShort = 0.755, r.NetDeflCLLong = 0.75, r.AllowDeflCLShort = 1;
+    r.AllowDeflCLLong = 1.5; // L / 480 of 40 and 60 ft
+    r.NetDeflELShort = 0.0449, r.AllowDeflELShort = 0.5;
+    ResultsScreen screen = Filled(record, r, {.ShowDD = 1});
+
+    const std::vector<std::string> centerLift = ShownRows(screen, "fraExpOutput(3)");
+    const std::vector<std::string> panel = {
+        "DIFFERENTIAL DEFLECTION",
+        "Note:  This calculation is not included in or required by the 3rd Edition PTI Manual",
+        "Actual Deflection : | 0.76 | 0.75", "Allowable Deflection : | 1.00 | 1.50"};
+    const auto title = std::find(centerLift.begin(), centerLift.end(), panel[0]);
+    ASSERT_NE(title, centerLift.end());
+    EXPECT_EQ(std::vector<std::string>(title, title + 4), panel);
+    const std::vector<std::string> edgeLift = ShownRows(screen, "fraExpOutput(4)");
+    EXPECT_EQ(std::count(edgeLift.begin(), edgeLift.end(), "DIFFERENTIAL DEFLECTION"), 1);
+    EXPECT_EQ(std::count(edgeLift.begin(), edgeLift.end(), "Actual Deflection : | 0.04 | 0.00"), 1);
+
+    // Without the option neither the panel's title nor its rows show.
+    FillResults(screen, record, r, {});
+    for (const char* frame : {"fraExpOutput(3)", "fraExpOutput(4)"}) {
+        for (const std::string& row : ShownRows(screen, frame)) {
+            EXPECT_TRUE(row.find("DEFLECTION") == std::string::npos &&
+                        row.find("Deflection") == std::string::npos)
+                << frame << ": " << row;
+        }
+    }
 }
 
 TEST(FillResults, LineLoadPageNamesBothSlabsWithAUniformFoundation) {
@@ -294,4 +395,36 @@ TEST(ResultsScreenLayout, EveryRowPlacesControlsOfTheScreenAndEveryValueIsPlaced
     EXPECT_EQ(screen.pages.size(), 19u);
     EXPECT_EQ(Text(screen, "lblRPELabel"), ExceptionsHeading);
     EXPECT_EQ(Text(screen, "lblUTFPELabel"), ExceptionsHeading);
+}
+
+// A force at the largest number a double holds gives a prestress past it: the screen stops as
+// the analysis does at an overflow, rather than show "Infinity"; a section without area (no
+// number at all) is an invalid argument.
+TEST(FillResults, APrestressTooLargeToShowEndsLikeAFault) {
+    ResultsRecord r = CompliantResults();
+    r.ForceNetShort = 1.7976931348623157e308;
+    ResultsScreen screen = LoadResultsScreen();
+    try {
+        FillResults(screen, SummaryRecord(), r, {});
+        ADD_FAILURE() << "no fault";
+    } catch (const ResultsValueFault& fault) {
+        EXPECT_EQ(fault.kind, FaultKind::Overflow);
+    }
+
+    r = CompliantResults();
+    r.AreaLong = 0; // and no force: nought over nought
+    try {
+        FillResults(screen, SummaryRecord(), r, {});
+        ADD_FAILURE() << "no fault";
+    } catch (const ResultsValueFault& fault) {
+        EXPECT_EQ(fault.kind, FaultKind::InvalidArgument);
+    }
+
+    // Just short of it, the prestress is a number and is shown.
+    r = CompliantResults();
+    r.ForceNetShort = 1.7976931348623157e305;
+    r.AreaShort = 1000;
+    FillResults(screen, SummaryRecord(), r, {});
+    EXPECT_EQ(Text(screen, "lblEPBS").find("Infinity"), std::string::npos);
+    EXPECT_EQ(Text(screen, "lblEPBS").size(), 407u); // 306 digits and 101 commas
 }

@@ -75,6 +75,9 @@ TEST(PrintRDS, LinesInOrderWithValuesRightAlignedAndUnitsHanging) {
         return std::find(body.begin(), body.end(), text) - body.begin();
     };
     EXPECT_LT(at("In the LONG direction ..."), at("In the SHORT direction ..."));
+    const RecordedText& beamHead = r.Placed("Type II Beam");
+    EXPECT_TRUE(beamHead.bold && beamHead.underline);
+    EXPECT_EQ(beamHead.x, 8250 - 600);
     EXPECT_EQ(r.Placed("3.25 Inches").x, 6040 - 400);
     EXPECT_EQ(r.Placed("3.00 Inches").x, 6040 - 400); // 0.25 + 2.75 in the short direction
     EXPECT_EQ(r.Placed("0.25 Inches").x, 8280 - 400); // Type II beams without cover print too
@@ -118,6 +121,14 @@ TEST(PrintUDS, UniformSlabWithItsUnroundedThicknessAndBetaRowsBySoil) {
               body.end());
     EXPECT_EQ(std::find(body.begin(), body.end(), "Beta Distance (Feet) :"), body.end());
     EXPECT_EQ(r.Placed("28.90  KIPS ").x, 8280 - 500);
+    // The heads of the selected variables are plain lines, unlike the beam tables' headings.
+    for (const char* head : {"Short", "Long", "Direction"}) {
+        const RecordedText& placed = r.Placed(head);
+        EXPECT_FALSE(placed.bold || placed.underline) << head;
+        EXPECT_EQ(placed.size, 10) << head;
+    }
+    // "Long" centred on x 8250: 4 characters of 100 twips.
+    EXPECT_EQ(r.Placed("Long").x, 8250 - 200);
 
     Report expansive;
     PrintUDS(expansive.page, Heights, true);

@@ -73,7 +73,7 @@ TEST(PrintDialog, DefaultAndSelectedRangesCountOnlyPagesTheProjectHas) {
 TEST(PrintDialog, RangesEnableTheBoxesOfThePagesTheProjectHas) {
     PrintDialog dialog = LoadPrintDialog();
     const DesignRecord lineLoadOnly = Project(0, 0, 0, 1);
-    OpenPrintDialog(dialog, lineLoadOnly, {"Arial", "Courier New"}, "PDF");
+    OpenPrintDialog(dialog, lineLoadOnly, {"Arial", "Courier New"}, "PDF", PrintPath::Menu);
     EXPECT_TRUE(dialog.visible);
     EXPECT_EQ(dialog.form["lblCurrentPrinter"].caption, "PDF");
     EXPECT_EQ(dialog.form["cbbReportFont"].text, "Arial");
@@ -81,13 +81,29 @@ TEST(PrintDialog, RangesEnableTheBoxesOfThePagesTheProjectHas) {
         EXPECT_FALSE(dialog.form[ArrayName("Check1", page)].enabled) << page;
     }
 
-    ChoosePrintRange(dialog, lineLoadOnly, PrintRange::Selected);
+    ClickPrintControl(dialog, lineLoadOnly, "Option1(2)");
+    EXPECT_EQ(ChosenRange(dialog), PrintRange::Selected);
     for (int page = 0; page < ReportPageCount; ++page) {
         const bool uniform = page >= 4 && page <= 6;
         EXPECT_EQ(dialog.form[ArrayName("Check1", page)].enabled, !uniform) << page;
     }
-    dialog.form["Check1(9)"].checked = true;
-    dialog.form["Check1(0)"].checked = true;
+    // A click ticks an enabled box and clears it again; a disabled box cannot be set.
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(9)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(0)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(3)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(3)");
+    ClickPrintControl(dialog, lineLoadOnly, "Check1(5)");
+    EXPECT_EQ(TickedPages(dialog),
+              (Ticks{true, false, false, false, false, false, false, false, false, true}));
+    // Design summary 1 and line load 1.
+    EXPECT_EQ(RangeSheetCount(PrintRange::Selected, lineLoadOnly, {}, TickedPages(dialog)), 2);
+
+    // The font chosen in the list is the report's; an item beyond the list changes nothing.
+    ChooseReportFont(dialog, 1);
+    ChooseReportFont(dialog, 2);
+    EXPECT_EQ(dialog.form["cbbReportFont"].text, "Courier New");
+    ShowPrinterName(dialog, "Office Laser");
+    EXPECT_EQ(dialog.form["lblCurrentPrinter"].caption, "Office Laser");
 
     // Without the line load its box is cleared; the default report clears and disables all.
     ChoosePrintRange(dialog, Project(0, 0, 1, 0), PrintRange::Selected);
@@ -103,29 +119,34 @@ TEST(PrintDialog, DefaultReportWithNothingToPrintWarnsAndStaysOpen) {
     uniformOnly[4] = uniformOnly[6] = 1;
     Flags lineLoadOnly{};
     lineLoadOnly[9] = 1;
+    // The first two carry the exclamation mark; the third is a plain box under the same title.
     const struct {
         Flags flags;
+        MessageIcon icon;
         std::string text;
     } cases[] = {
-        {uniformOnly, "The Default Report contains only pages relating to Uniform Thickness "
-                      "Foundations yet the \nUniform Thickness Foundation was not analyzed "
-                      "therefore there is nothing to print."},
-        {lineLoadOnly, "The Default Report contains only pages relating to the Line Load Analysis "
-                       "yet the \nLine Load Analysis was not performed therefore there is nothing "
-                       "to print."},
-        {Flags{}, "The Default Report has no pages selected therefore therefore there is nothing "
-                  "to print."},
+        {uniformOnly, MessageIcon::Exclamation,
+         "The Default Report contains only pages relating to Uniform Thickness "
+         "Foundations yet the \nUniform Thickness Foundation was not analyzed "
+         "therefore there is nothing to print."},
+        {lineLoadOnly, MessageIcon::Exclamation,
+         "The Default Report contains only pages relating to the Line Load Analysis "
+         "yet the \nLine Load Analysis was not performed therefore there is nothing "
+         "to print."},
+        {Flags{}, MessageIcon::None,
+         "The Default Report has no pages selected therefore therefore there is nothing "
+         "to print."},
     };
     const DesignRecord record = Project(0, 0, 0, 0);
     FixedClock clock("November 23, 2026");
     for (const auto& c : cases) {
         PrintDialog dialog = LoadPrintDialog();
-        OpenPrintDialog(dialog, record, {}, "PDF");
+        OpenPrintDialog(dialog, record, {}, "PDF", PrintPath::Menu);
         RecordingDialogs dialogs;
         EXPECT_FALSE(PressPrint(dialog, record, c.flags, dialogs, clock));
         ASSERT_EQ(dialogs.messages.size(), 1u);
         EXPECT_EQ(dialogs.messages[0].title, "Print Warning");
-        EXPECT_EQ(dialogs.messages[0].icon, MessageIcon::Exclamation);
+        EXPECT_EQ(dialogs.messages[0].icon, c.icon);
         EXPECT_EQ(dialogs.messages[0].text, c.text);
         EXPECT_TRUE(dialog.visible);
         EXPECT_FALSE(dialog.busyPointer);

@@ -4,6 +4,7 @@
 #include "reports/results_pages.h"
 
 #include "tests/compliance/compliance_test_support.h"
+#include "tests/reports/report_test_support.h"
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,18 @@ TEST(PrintLLA, UniformSlabLinesAndTheCompressionTestOnTheRibbedStress) {
         EXPECT_EQ(text.find("Uniform"), std::string::npos) << text;
     }
     EXPECT_TRUE(ribbed.Has("ALL VALUES WITHIN ALLOWABLE LIMITS."));
+    // Each stress head ends where the stresses under it end: "-0.300" and 1350 psi as "1.350".
+    EXPECT_EQ(ribbed.LineOf("Allowable Stress :"), (std::vector<std::string>{"-0.300", "1.350"}));
+    const auto rightEnd = [&ribbed](const std::string& text) {
+        for (const RecordedText& t : ribbed.surface.sheets().front().texts) {
+            if (t.text == text) {
+                return t.x + 100.0 * text.size();
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + text);
+    };
+    EXPECT_EQ(rightEnd("Tension in Extreme Fiber"), rightEnd("-0.300"));
+    EXPECT_EQ(rightEnd("Compression in Extreme Fiber"), rightEnd("1.350"));
 
     Report uniform;
     uniform.record.LineLoadType = 1, uniform.record.FlatSlab = 1;
@@ -183,4 +196,131 @@ TEST(PrintRSV, EquivalentDepthOnlyForADirectionOfDifferingDepths) {
     Report even;
     PrintRSV(even.page, Heights, true);
     EXPECT_FALSE(even.Has("Equivalent Beam Depth (Inches) :"));
+}
+
+TEST(PrintResults, LinesStepAWholeLineUnlessTheSheetWouldRunIntoTheFooter) {
+    // The edge lift sheet of an expansive project has room: its lines are one line height apart.
+    Report lift;
+    PrintRROA(lift.page, Heights, true);
+    ASSERT_EQ(lift.surface.sheets().size(), 2u);
+    const auto y = [](const Report& report, const std::string& text, std::size_t sheet) {
+        for (const RecordedText& placed : report.surface.sheets().at(sheet).texts) {
+            if (placed.text == text) {
+                return placed.y;
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + text);
+    };
+    EXPECT_EQ(y(lift, "0.9 Moment  (FT-K)", 1) - y(lift, "Cracked Section Capacity  (FT-K)", 1),
+              230);
+    // The title at 3322, the block's heading two lines below, then "Short", "Direction" and the
+    // capacity: 3322 + 5 x 230.
+    EXPECT_EQ(y(lift, "Cracked Section Capacity  (FT-K)", 1), 4472);
+
+    // Center down alone, bearing on the beam bottoms: 49 lines, the title's and the shear
+    // stresses' 48 steps apart, too many for a sheet at 230 twips. The lowest line ends half a
+    // line above the footer's page number at 14260 - 1.5 x 230 = 13915, on 13800: every step is
+    // shortened to (13800 - 230 - 3322) / (48 x 230) of a line, and the shear stresses stand at
+    // 13570.
+    Report down;
+    down.record.SoilType = 1, down.record.CLSettleState = 0;
+    down.page.settings.UseBeamOnly = 1;
+    PrintRROA_Comp(down.page, Heights, true);
+    ASSERT_EQ(down.surface.sheets().size(), 1u);
+    const double share = (13800.0 - 230 - 3322) / (48 * 230);
+    EXPECT_NEAR(y(down, "Actual Shear Stress  (PSI)", 0), 13570, 1e-6);
+    EXPECT_NEAR(y(down, "Soil Bearing Analysis", 0), 3322 + 2 * 230 * share, 1e-6);
+    for (const RecordedText& placed : down.surface.sheets().front().texts) {
+        if (placed.y > 3322 && placed.size == 10 && placed.text.rfind("Page ", 0) != 0 &&
+            placed.y < 14000) {
+            EXPECT_LE(placed.y + 230, 13800 + 1e-6) << placed.text;
+        }
+    }
+}
+
+TEST(PrintResults, BearingAreaAndSoilPressureShareOneLineWhereTheLabelLeavesRoom) {
+    Report r;
+    r.results.BearingArea = 2206.4, r.results.SoilPressure = 166;
+    PrintRROA(r.page, Heights, true);
+    const auto placed = [&r](const std::string& text) {
+        for (const RecordedText& t : r.surface.sheets().front().texts) {
+            if (t.text == text) {
+                return t;
+            }
+        }
+        throw std::out_of_range("nothing placed reads " + text);
+    };
+    // The bearing line follows the total load; the safety factor the bearing line.
+    const double line = placed("Bearing Area").y;
+    const double step = line - placed("Total Applied Load").y;
+    EXPECT_GT(step, 200);
+    EXPECT_EQ(placed("2,206  FT").y, line);
+    EXPECT_EQ(placed("2,206  FT").x, 5040 - 500);
+    EXPECT_EQ(placed("2").y, line - 30);
+    EXPECT_EQ(placed("2").x, 5040 + 400);
+    EXPECT_EQ(placed("Applied Pressure on Soil").y, line);
+    EXPECT_EQ(placed("Applied Pressure on Soil").x, 5760);
+    EXPECT_EQ(placed("166  PSF").y, line);
+    EXPECT_EQ(placed("166  PSF").x, 8990 - 300);
+    EXPECT_DOUBLE_EQ(placed("Soil Pressure Safety Factor").y, line + step);
+
+    // The label of the beam bottoms, 45 characters from x 2160, runs past the area's column:
+    // the area ends its line in the value column and the pressure has a line of its own.
+    Report beams;
+    beams.record.SoilType = 1, beams.record.CLSettleState = 1;
+    beams.page.settings.UseBeamOnly = 1;
+    beams.results.BearingArea = 598, beams.results.SoilPressure = 614;
+    PrintRROA_Comp(beams.page, Heights, true);
+    EXPECT_EQ(beams.LineOf("Bearing Area (based on beam bottom area only)"),
+              (std::vector<std::string>{"598  FT"}));
+    EXPECT_EQ(beams.LineOf("Applied Pressure on Soil"), (std::vector<std::string>{"614  PSF"}));
+}
+
+TEST(PrintReport, NoTwoTextsOfALineRunIntoEachOtherOrPastTheRightEdge) {
+    // Every page of the entire report, in the states that lengthen its lines: both soils, with
+    // and without edge down and the uniform slab, bearing on the beam bottoms or not, each kind
+    // of subgrade friction, a custom tendon, a line load, every check listed, the note of the
+    // prestress at Beta and the second edition's deflections.
+    for (const std::int16_t soil : {0, 1}) {
+        for (const std::int16_t edgeDown : {0, 1}) {
+            for (const std::int16_t flatSlab : {0, 1}) {
+                for (const std::int16_t beamOnly : {0, 1}) {
+                    for (const std::int16_t friction : {0, 1, 2}) {
+                        DesignRecord record = PlainRibbedRecord();
+                        record.SoilType = soil, record.CLSettleState = edgeDown;
+                        record.FlatSlab = flatSlab, record.LineLoadType = 1;
+                        record.Subgradetype = friction, record.TendType = 3;
+                        ResultsRecord results = CompliantResults();
+                        results.BearingArea = 12206, results.SoilPressure = 1660;
+                        PrintJob job;
+                        job.pages = RangePages(PrintRange::Entire, record, {}, {});
+                        job.totalSheets = RangeSheetCount(PrintRange::Entire, record, {}, {});
+                        RecordingSurface surface;
+                        PrintReport(
+                            surface, job, record, results,
+                            {.projectPath = "/lot.kvt",
+                             .showAll = true,
+                             .engine = {.UseBeta = 1, .UseBeamOnly = beamOnly, .ShowDD = 1}});
+                        const std::string state = std::to_string(soil) + std::to_string(edgeDown) +
+                                                  std::to_string(flatSlab) +
+                                                  std::to_string(beamOnly) +
+                                                  std::to_string(friction);
+                        for (std::size_t sheet = 0; sheet < surface.sheets().size(); ++sheet) {
+                            EXPECT_EQ(OverlappingTexts(surface.sheets()[sheet]),
+                                      std::vector<std::string>{})
+                                << state << " sheet " << sheet;
+                            // The stress tables' compression caption, 33 characters of 100
+                            // twips, ends on the right text edge at the latest.
+                            for (const RecordedText& t : surface.sheets()[sheet].texts) {
+                                if (t.text.rfind("Compression in ", 0) == 0) {
+                                    EXPECT_LE(t.x + 100.0 * t.text.size(), 10580)
+                                        << state << " " << t.text;
+                                }
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
 }

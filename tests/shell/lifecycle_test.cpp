@@ -63,13 +63,21 @@ TEST(ProjectLifecycle, TheStateTableFromStartToAnalysisAndBack) {
     EXPECT_EQ(p.record.SoilType, 1);
     EXPECT_EQ(project.ProjectChanged, 0);
 
-    // Opening an example: saved, not yet analysed.
+    // Opening an example from page 5: saved, not yet analysed, shown on page 1.
+    InputContext context = InputContextOf(p, f.services);
+    SelectPage(p.input, context, 5);
+    EXPECT_NE(p.input.form["tlbInput(1)"].toolTip, "Open Project Information File");
     const std::string path = f.Example("uniform_line_load");
     OpenRecentProject(p, f.services, path);
     EXPECT_EQ(project.caption, "Korvath 3.0 - uniform_line_load.kvt");
     EXPECT_EQ(Commands(project), "+save +button4 +saveAs +input +analysis -output -print ");
     EXPECT_EQ(p.input.form["txtProjName"].text, "Hilltop Storage Warehouse");
     EXPECT_EQ(p.settings.RecentFiles[0], path);
+    EXPECT_EQ(p.project.dialogFolder, f.scratch.path().string());
+    EXPECT_EQ(p.input.dialogFolder, f.scratch.path().string());
+    EXPECT_EQ(p.input.CurrentInputTab, 1);
+    EXPECT_EQ(p.input.form["tlbInput(1)"].toolTip, "Open Project Information File");
+    EXPECT_EQ(p.input.form["tlbInput(2)"].toolTip, "Save Project Information File");
 
     // Analysed: the results replace the input, four main tabs for its uniform foundation and
     // line load.
@@ -127,6 +135,7 @@ TEST(ProjectLifecycle, AVersionTwoFileIsAnnouncedAndLeftChanged) {
     OpenCommand(f.program, f.services);
     ASSERT_EQ(f.dialogs.messages.size(), 1u);
     EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Opening Korvath Win 2.x file");
     EXPECT_EQ(f.program.project.caption, "Korvath 3.0 - old.kvt*");
     EXPECT_EQ(f.program.project.ProjectChanged, 1);
     EXPECT_TRUE(f.program.project.saveAsEnabled);
@@ -223,28 +232,75 @@ TEST(ProjectLifecycle, YesOnAProjectNeverSavedGoesThroughTheSaveDialog) {
     EXPECT_TRUE(p.project.saveEnabled);
     EXPECT_EQ(p.settings.RecentFiles[0], path);
     EXPECT_EQ(f.dialogs.fileDialogs.back().title, "Save Project As ...");
+    EXPECT_EQ(f.dialogs.fileDialogs.back().filter, "Projects (*.kvt)|*.kvt");
+    EXPECT_EQ(p.project.ProjectChanged, 0);
+    EXPECT_EQ(p.project.dialogFolder, f.scratch.path().string());
+    EXPECT_EQ(p.input.dialogFolder, f.scratch.path().string());
     EXPECT_NE(FileBytes(path).find("Lot 16"), std::string::npos);
+}
+
+TEST(ProjectLifecycle, ANewProjectAfterAFileWithoutDataHasItsDataSaved) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    // A file whose data flag says it holds nothing: it loads nothing and saves as two lines.
+    const std::string empty = f.Path("empty.kvt");
+    WriteBytes(empty, Lines({"Korvath 3.0", " 1 "}));
+    OpenRecentProject(p, f.services, empty);
+    EXPECT_EQ(p.record.NoDataFlag, 1);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - empty.kvt");
+
+    // A new project clears the flag, so that its input reaches the record and the file.
+    NewProjectReset(p, f.services, ProjectKind::Expansive);
+    EXPECT_EQ(p.record.NoDataFlag, 0);
+    Type(f, "txtProjName", "Lot 18");
+    const std::string path = f.Path("lot18.kvt");
+    f.dialogs.answers = {path};
+    SaveAsCommand(p, f.services);
+    EXPECT_EQ(p.record.ProjName, "Lot 18");
+    const std::string bytes = FileBytes(path);
+    EXPECT_EQ(bytes.rfind("Korvath 3.0\r\n 0 \r\nLot 18\r\n", 0), 0u) << bytes;
 }
 
 TEST(ProjectLifecycle, AFailedOpenHidesTheInputAndSaysWhy) {
     LifecycleFixture f;
     Program& p = f.program;
     const std::string path = f.Example("expansive_ribbed");
-    OpenRecentProject(p, f.services, path);
+    // The command line's path loses one pair of quotation marks; an unquoted one is taken whole.
+    OpenAssociatedProject(p, f.services, "\"" + path + "\"");
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    OpenAssociatedProject(p, f.services, path);
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    EXPECT_TRUE(f.dialogs.messages.empty());
     const DesignRecord before = p.record;
 
+    // A recent file or the command line gives the project its path only once the file has been
+    // read: a failed open keeps the former path and title.
     OpenAssociatedProject(p, f.services, "\"" + f.Path("missing.kvt") + "\"");
     ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Critical);
     EXPECT_EQ(f.dialogs.messages[0].title, "Error opening file - 53");
     EXPECT_EQ(f.dialogs.messages[0].text, "File not found");
     EXPECT_FALSE(p.input.visible);
     EXPECT_EQ(p.project.caption, "Korvath 3.0 - ");
-    EXPECT_EQ(p.project.ProjFilePath, f.Path("missing.kvt")); // the quotation marks removed
+    EXPECT_EQ(p.project.ProjFilePath, path);
+    EXPECT_EQ(p.project.ProjFileTitle, "expansive_ribbed.kvt");
+    EXPECT_EQ(p.project.ProjectChanged, 0);
+    EXPECT_EQ(p.record, before);
+
+    // The file dialog gives its path before the file is read, and the failed open keeps it.
+    f.dialogs.answers = {f.Path("gone.kvt")};
+    OpenCommand(p, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 2u);
+    EXPECT_EQ(f.dialogs.messages[1].title, "Error opening file - 53");
+    EXPECT_EQ(p.project.ProjFilePath, f.Path("gone.kvt"));
+    EXPECT_EQ(p.project.ProjFileTitle, "gone.kvt");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - ");
     EXPECT_EQ(p.record, before);
 
     // A cancelled dialog is silent and changes nothing.
     OpenCommand(p, f.services);
-    EXPECT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages.size(), 2u);
+    EXPECT_EQ(p.project.ProjFilePath, f.Path("gone.kvt"));
 }
 
 TEST(ProjectLifecycle, SaveFailuresKeepTheProjectChanged) {
@@ -265,6 +321,9 @@ TEST(ProjectLifecycle, NewButtonRemembersTheKindChosenInItsList) {
     LifecycleFixture f;
     Program& p = f.program;
     EXPECT_EQ(p.project.newToolTip, "New Expansive Soil Project");
+    EXPECT_EQ(NewKindCaption(ProjectKind::Expansive), "New Expansive Soil Project");
+    EXPECT_EQ(NewKindCaption(ProjectKind::Compressible), "New Compressible Soil Project");
+    EXPECT_EQ(NewKindCaption(ProjectKind::LineLoad), "New Line Load Project");
     ChooseNewKind(p, f.services, ProjectKind::Compressible);
     EXPECT_EQ(p.project.newToolTip, "New Compressible Soil Project");
     NewProjectReset(p, f.services, ProjectKind::Expansive);
@@ -278,6 +337,27 @@ TEST(ProjectLifecycle, NewButtonRemembersTheKindChosenInItsList) {
     LineLoadMenuItem(p);
     EXPECT_EQ(p.project.ProjectChanged, 1);
     EXPECT_EQ(p.input.form["txtProjName"].text, "changed");
+    EXPECT_TRUE(f.dialogs.messages.empty());
+
+    // The button asks first; Cancel keeps the project as it is.
+    f.dialogs.replies = {Answer::Cancel};
+    ClickNewButton(p, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 1u);
+    EXPECT_EQ(f.dialogs.messages[0].icon, MessageIcon::Question);
+    EXPECT_EQ(f.dialogs.messages[0].title, "Save?");
+    EXPECT_EQ(f.dialogs.messages[0].text, "File has changed?  Save before opening new project?");
+    EXPECT_EQ(p.input.form["txtProjName"].text, "changed");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - Untitled*");
+
+    // The line load kind chosen in the list, then repeated by the button, ticks the line load.
+    f.dialogs.replies = {Answer::No};
+    ChooseNewKind(p, f.services, ProjectKind::LineLoad);
+    EXPECT_EQ(p.project.newToolTip, "New Line Load Project");
+    p.input.form["cbLineLoadType"].checked = false;
+    ClickNewButton(p, f.services);
+    EXPECT_TRUE(p.input.form["cbLineLoadType"].checked);
+    EXPECT_EQ(p.record.SoilType, 0);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - Untitled");
 }
 
 TEST(ProjectLifecycle, AnalysisStopsAtInputFaultsAndEndsTheProgramAtAnEngineFault) {
@@ -344,6 +424,18 @@ TEST(ProjectLifecycle, WindowPlacementKeepsAPlaceOnTheScreenAndTheEndWritesIt) {
     EXPECT_EQ(s.StartX, "3619");
     EXPECT_EQ(place.top, 900);
 
+    // A window drawn larger than the classic size is centred for its own size: 1240 by 780
+    // pixels of 15 twips on a screen of 1920 by 1080.
+    s.StartX.clear(), s.StartY.clear();
+    place = LoadMainWindow(f.program, f.services, 28800, 16200, 18600, 11700);
+    EXPECT_EQ(place.left, (28800 - 18600) / 2.0);
+    EXPECT_EQ(place.top, (16200 - 11700) / 2.0);
+    EXPECT_EQ(s.StartX, "5100");
+    EXPECT_EQ(s.StartY, "2250");
+    // A kept place stands as it is, even where the window reaches past the screen's edge.
+    s.StartX = "19000";
+    EXPECT_EQ(LoadMainWindow(f.program, f.services, 19200, 10800, 18600, 11700).left, 19000);
+
     ModifyRecentFiles(s, "/lot.kvt");
     EndProgram(f.program, f.services, "1200", "800");
     EXPECT_EQ(f.section("Program Data").at("StartX"), "1200");
@@ -354,12 +446,22 @@ TEST(ProjectLifecycle, PrintingNeedsResultsAndReadsTheDefaultReportFromTheOption
     LifecycleFixture f;
     Program& p = f.program;
     OpenRecentProject(p, f.services, f.Example("compressible_edge_down"));
-    PrintCommand(p, {"Arial"}, "PDF");
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Menu);
     EXPECT_FALSE(p.print.visible);
 
+    // A printing failure is told under the title of the command that opened the dialog.
     ASSERT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
-    PrintCommand(p, {"Arial"}, "PDF");
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Toolbar);
     EXPECT_TRUE(p.print.visible);
+    EXPECT_EQ(PrinterErrorMessage(76, "Path not found", p.print.openedFrom).title,
+              "Printing Critical Error");
+    EndPrinting(p.print);
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Menu);
+    EXPECT_TRUE(p.print.visible);
+    const MessageRequest failure = PrinterErrorMessage(76, "Path not found", p.print.openedFrom);
+    EXPECT_EQ(failure.title, "Critical Error");
+    EXPECT_EQ(failure.text, "Path not found");
+    EXPECT_EQ(failure.icon, MessageIcon::Critical);
 
     // A fresh store's default report holds every page: on compressible soil with edge down and
     // neither uniform foundation nor line load, 8 sheets.
@@ -375,7 +477,7 @@ TEST(ProjectLifecycle, PrintingNeedsResultsAndReadsTheDefaultReportFromTheOption
         p.options.form[ArrayName("chkDR", i)].checked = i == 9;
     }
     ASSERT_TRUE(OptionsOK(p, f.services, {f.scratch.path(), "korvath3"}));
-    PrintCommand(p, {"Arial"}, "PDF");
+    PrintCommand(p, {"Arial"}, "PDF", PrintPath::Menu);
     EXPECT_FALSE(PrintButton(p, f.services));
     EXPECT_EQ(f.dialogs.messages.back().title, "Print Warning");
     EXPECT_TRUE(p.print.visible);

@@ -70,4 +70,7 @@ TEST(AssociateFileType, WritesTheMimeTypeAndTheDesktopEntry) {
     EXPECT_NE(entry.find("Exec=\"/opt/Korvath 3/bin/korvath3\" %f\n"), std::string::npos) << entry;
     EXPECT_NE(entry.find("MimeType=application/x-korvath3-project;\n"), std::string::npos);
     EXPECT_EQ(files.desktopEntry, folder / "applications" / "korvath3.desktop");
+
+    // The installed package declares the same file type, so that both agree on the desktop.
+    EXPECT_EQ(FileBytes(std::filesystem::path(K3_SOURCE_DIR) / "dist" / "korvath3.xml"), mime);
 }
