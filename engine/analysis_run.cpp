@@ -12,6 +12,7 @@
 #include "engine/soil_bearing.h"
 #include "engine/tendon_tallies.h"
 #include "engine/uniform_thickness.h"
+#include "engine/vector_state.h"
 
 namespace {
 
@@ -59,6 +60,7 @@ std::string AnalysisStageName(int stage) {
 
 void RunDesignEngine(const EngineSettings& settings, DesignRecord& record, ResultsRecord& results,
                      EquivalentDepthMemo* memo) {
+    ClearUpperVectorState();
     runStage(AnalysisStage::AllowablesAndSections,
              [&] { ComputeAllowablesAndSections(record, results); });
     runStage(AnalysisStage::EquivalentDepths, [&] {

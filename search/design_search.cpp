@@ -1,8 +1,8 @@
 #include "search/design_search.h"
 
+#include "engine/vector_state.h"
 #include "search/best_candidates.h"
 #include "search/pareto_front.h"
-#include "search/vector_state.h"
 
 #include <algorithm>
 #include <chrono>

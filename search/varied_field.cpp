@@ -29,9 +29,9 @@ std::string quoted(std::string_view text) {
 }
 
 // An optional sign, digits with an optional decimal point, and at least one digit.
-Decimal parseDecimal(std::string_view text, std::string_view spec) {
+Decimal parseDecimal(std::string_view text, std::string_view given) {
     const auto notANumber = [&] {
-        return SearchRequestError(quoted(text) + " in " + quoted(spec) +
+        return SearchRequestError(quoted(text) + " in " + quoted(given) +
                                   " is not a plain decimal number");
     };
     std::size_t at = 0;
@@ -58,7 +58,7 @@ Decimal parseDecimal(std::string_view text, std::string_view spec) {
             ++significant;
         }
         if (significant > MaxDigits) {
-            throw SearchRequestError(quoted(text) + " in " + quoted(spec) + " has more than " +
+            throw SearchRequestError(quoted(text) + " in " + quoted(given) + " has more than " +
                                      std::to_string(MaxDigits) + " significant digits");
         }
         decimal.digits = decimal.digits * 10 + (c - '0');
@@ -70,7 +70,7 @@ Decimal parseDecimal(std::string_view text, std::string_view spec) {
         throw notANumber();
     }
     if (decimal.decimals > MaxDigits) {
-        throw SearchRequestError(quoted(text) + " in " + quoted(spec) + " has more than " +
+        throw SearchRequestError(quoted(text) + " in " + quoted(given) + " has more than " +
                                  std::to_string(MaxDigits) + " decimals");
     }
     if (negative) {
@@ -80,7 +80,7 @@ Decimal parseDecimal(std::string_view text, std::string_view spec) {
 }
 
 // The number in units of 10^-decimals, which are at least its own.
-std::int64_t inUnits(const Decimal& number, int decimals, std::string_view spec) {
+std::int64_t inUnits(const Decimal& number, int decimals, std::string_view given) {
     std::int64_t units = number.digits;
     for (int i = number.decimals; i < decimals; ++i) {
         if (units >= DigitLimit || units <= -DigitLimit) {
@@ -89,7 +89,7 @@ std::int64_t inUnits(const Decimal& number, int decimals, std::string_view spec)
         units *= 10;
     }
     if (units >= DigitLimit || units <= -DigitLimit) {
-        throw SearchRequestError("the numbers of " + quoted(spec) + " need more than " +
+        throw SearchRequestError("the numbers of " + quoted(given) + " need more than " +
                                  std::to_string(MaxDigits) + " significant digits together");
     }
     return units;

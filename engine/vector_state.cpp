@@ -1,4 +1,4 @@
-#include "search/vector_state.h"
+#include "engine/vector_state.h"
 
 #if defined(__x86_64__) && defined(__GNUC__)
 
