@@ -9,6 +9,7 @@
 #include <condition_variable>
 #include <exception>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -91,11 +92,10 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
     std::vector<ThreadFindings> findings(static_cast<std::size_t>(threadCount),
                                          ThreadFindings(request.objective, request.best));
     SharedWork work;
-    work.running = threadCount;
     {
         std::vector<std::jthread> threads;
         for (ThreadFindings& mine : findings) {
-            threads.emplace_back([&request, &control, &work, &mine] {
+            const auto tryShare = [&request, &control, &work, &mine] {
                 ClearUpperVectorState();
                 try {
                     mine = tryCandidates(request, control, work);
@@ -105,7 +105,23 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
                 const std::lock_guard lock(work.mutex);
                 --work.running;
                 work.finished.notify_one();
-            });
+            };
+            {
+                const std::lock_guard lock(work.mutex);
+                ++work.running;
+            }
+            try {
+                threads.emplace_back(tryShare);
+            } catch (const std::system_error&) {
+                // The system gives no more threads: those started share all the candidates,
+                // and the outcome is the same.
+                const std::lock_guard lock(work.mutex);
+                --work.running;
+                break;
+            }
+        }
+        if (threads.empty()) {
+            findings.front() = tryCandidates(request, control, work);
         }
         std::unique_lock lock(work.mutex);
         while (!work.finished.wait_for(lock, ProgressInterval, [&] { return work.running == 0; })) {
