@@ -5,11 +5,8 @@
 #include "app/splash_screen.h"
 #include "shell/file_association.h"
 #include "shell/lifecycle/project_lifecycle.h"
-#include "shell/memory_settings_store.h"
 #include "shell/program_folder.h"
-#include "shell/qt/ini_settings_store.h"
-#include "shell/settings_at_start.h"
-#include "shell/settings_file_check.h"
+#include "shell/qt/settings_file_start.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -34,22 +31,12 @@ int main(int argc, char** argv) {
     QStringList arguments = QApplication::arguments();
     arguments.removeFirst();
 
-    // A settings file that cannot serve is left as it is; the run keeps its settings in memory.
-    const std::filesystem::path settingsFile = SettingsFilePath();
-    const std::optional<std::string> settingsProblem = SettingsFileProblem(settingsFile);
-    MemorySettingsStore memoryStore;
-    std::unique_ptr<SettingsStore> fileStore;
-    if (!settingsProblem) {
-        fileStore = std::make_unique<IniSettingsStore>(settingsFile);
-    }
     QtUserDialogs dialogs;
     SystemClock clock;
     Program program;
-    const SettingsAtStart settings = StartSettings(
-        fileStore ? *fileStore : memoryStore, memoryStore, settingsProblem, settingsFile.string(),
-        dialogs, clock, ProgramFolder().string(), program.settings);
-    ShellServices services{*settings.store, dialogs, clock, ProgramFolder().string()};
-    const std::int16_t showSplash = settings.showSplash;
+    SettingsFileStart settings(dialogs, clock, ProgramFolder().string(), program.settings);
+    ShellServices services{settings.store(), dialogs, clock, ProgramFolder().string()};
+    const std::int16_t showSplash = settings.showSplash();
 
     MainWindow window(program, services,
                       {UserDataFolder(), std::filesystem::path(ProgramFolder()) / "korvath3"});

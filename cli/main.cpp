@@ -10,11 +10,8 @@
 #include "cli/results_command.h"
 #include "cli/stderr_dialogs.h"
 #include "cli/upgrade_command.h"
-#include "shell/memory_settings_store.h"
 #include "shell/program_folder.h"
-#include "shell/qt/ini_settings_store.h"
-#include "shell/settings_at_start.h"
-#include "shell/settings_file_check.h"
+#include "shell/qt/settings_file_start.h"
 
 #include <CLI/CLI.hpp>
 #include <QGuiApplication>
@@ -70,18 +67,10 @@ void AddRunOptions(CLI::App& command, std::filesystem::path& project, bool& json
 // default. A settings file that cannot serve is left as it is: the run takes the factory
 // defaults and says so once on standard error.
 ProgramSettings LoadProgramSettings() {
-    const std::filesystem::path file = SettingsFilePath();
-    const std::optional<std::string> problem = SettingsFileProblem(file);
-    MemorySettingsStore memoryStore;
-    std::unique_ptr<SettingsStore> fileStore;
-    if (!problem) {
-        fileStore = std::make_unique<IniSettingsStore>(file);
-    }
     StreamDialogs dialogs(std::cerr);
     SystemClock clock;
     ProgramSettings settings;
-    StartSettings(fileStore ? *fileStore : memoryStore, memoryStore, problem, file.string(),
-                  dialogs, clock, ProgramFolder().string(), settings);
+    SettingsFileStart start(dialogs, clock, ProgramFolder().string(), settings);
     return settings;
 }
 
