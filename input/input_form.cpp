@@ -356,12 +356,20 @@ FormModel MakeInputForm() {
 }
 
 int PageOfControl(const FormModel& form, std::string_view name) {
-    std::string container(name);
+    // The frames' names are worked out once: the tab stops of a page ask this of every control.
+    static const std::array<std::string, InputPageCount> frames = [] {
+        std::array<std::string, InputPageCount> names;
+        for (int page = 1; page <= InputPageCount; ++page) {
+            names[static_cast<std::size_t>(page - 1)] = PageFrame(page);
+        }
+        return names;
+    }();
+    std::string_view container = name;
     while (form.has(container)) {
         const Control& control = form[container];
-        for (int page = 1; page <= InputPageCount; ++page) {
-            if (control.name == PageFrame(page)) {
-                return page;
+        for (std::size_t i = 0; i < frames.size(); ++i) {
+            if (control.name == frames[i]) {
+                return static_cast<int>(i) + 1;
             }
         }
         container = control.parent;
