@@ -3,6 +3,8 @@
 #               write their entire reports to build/reports/
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
 #   make bench  time the analysis, the project files and the design search
+#   make golden write the golden files of the command line's output anew, after a deliberate
+#               change (git diff then shows what changed)
 #   make screenshots  pictures of the desktop program's windows in build/screenshots/
 #   make fuzz   the libFuzzer targets in build-fuzz/ (make test runs each briefly)
 #   make fuzz-long    each target for FUZZ_RUNS executions (10 million) under LeakSanitizer
@@ -19,7 +21,7 @@ CLI := build/bin/korvath3-cli
 SUDO := $(shell [ "$$(id -u)" = 0 ] && echo "" || (command -v sudo >/dev/null && echo "sudo -n"))
 
 .PHONY: all deps configure build run test test-asan fuzz fuzz-smoke fuzz-long bench screenshots \
-        format clean install package
+        format clean install package golden
 PREFIX ?= /usr/local
 FUZZERS := read_design_file_fuzzer:design_file page_file_fuzzer:page_file \
            design_run_fuzzer:design_run
@@ -111,6 +113,10 @@ fuzz-long: deps
 	  echo "$$target: $$(grep -o 'Done [0-9]* runs in [0-9]* second(s)' "$$log")," \
 	    "peak memory $$(grep -o 'peak_rss_mb: *[0-9]*' "$$log" | grep -o '[0-9]*$$') MB"; \
 	done
+
+golden: build
+	K3_WRITE_GOLDEN=1 build/bin/golden_tests --gtest_filter='Examples/GoldenOutput.*'
+	build/bin/golden_tests
 
 bench: build
 	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true

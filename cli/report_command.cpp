@@ -147,7 +147,8 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     }
     dialog.form["cbbReportFont"].text = options.font;
     RememberingDialogs dialogs(err);
-    SystemClock clock;
+    SystemClock systemClock;
+    const Clock& clock = options.clock != nullptr ? *options.clock : systemClock;
     std::optional<PrintJob> job = PressPrint(dialog, record, options.defaultPages, dialogs, clock);
     // Nothing to print: the report's object says why in "warning", and in "error" as every
     // failure of the command line does.

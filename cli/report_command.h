@@ -3,6 +3,7 @@
 #include "common/date_text.h"
 #include "engine/design_record.h"
 #include "reports/print_dialog.h"
+#include "shell/clock.h"
 #include "shell/load_settings.h"
 
 #include <array>
@@ -25,6 +26,8 @@ struct ReportOptions {
     std::string font = "Arial";
     // Print what the report draws, sheet by sheet, as JSON instead of writing a PDF.
     bool json = false;
+    // The time the footer prints; the machine's clock when none is given.
+    const Clock* clock = nullptr;
 };
 
 // Analyses the project and writes the report of the range as a PDF, or with `json` prints every
