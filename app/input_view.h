@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/form_widgets.h"
-#include "shell/lifecycle/program.h"
+#include "lifecycle/program.h"
 
 #include <QWidget>
 #include <functional>

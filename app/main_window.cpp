@@ -4,8 +4,8 @@
 #include "app/options_view.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
-#include "shell/lifecycle/analysis_reset.h"
-#include "shell/lifecycle/project_lifecycle.h"
+#include "lifecycle/analysis_reset.h"
+#include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/lifecycle/options_dialog.h"
-#include "shell/lifecycle/program.h"
+#include "lifecycle/options_dialog.h"
+#include "lifecycle/program.h"
 #include "shell/shell_services.h"
 
 #include <QMainWindow>

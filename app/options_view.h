@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/form_widgets.h"
-#include "shell/lifecycle/options_dialog.h"
-#include "shell/lifecycle/program.h"
+#include "lifecycle/options_dialog.h"
+#include "lifecycle/program.h"
 
 #include <QDialog>
 

@@ -3,7 +3,7 @@
 #include "reports/qt/painter_surface.h"
 #include "reports/qt/pdf_report.h"
 #include "reports/report_pages.h"
-#include "shell/lifecycle/print_commands.h"
+#include "lifecycle/print_commands.h"
 #include "storage/file_error.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "app/form_widgets.h"
 #include "reports/report_run.h"
-#include "shell/lifecycle/program.h"
+#include "lifecycle/program.h"
 
 #include <QDialog>
 #include <QPrinter>

@@ -7,9 +7,9 @@
 #include "app/print_view.h"
 #include "app/qt_user_dialogs.h"
 #include "app/results_view.h"
-#include "shell/lifecycle/analysis_reset.h"
-#include "shell/lifecycle/print_commands.h"
-#include "shell/lifecycle/project_lifecycle.h"
+#include "lifecycle/analysis_reset.h"
+#include "lifecycle/print_commands.h"
+#include "lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 #include "shell/memory_settings_store.h"
 

@@ -6,10 +6,8 @@
 #include "cli/input_check.h"
 #include "cli/project_loading.h"
 #include "cli/results_summary.h"
-#include "compliance/compliance_pass.h"
-#include "engine/analysis_run.h"
-#include "engine/project_analysis.h"
-#include "output/results_screen.h"
+#include "cli/run_fault_json.h"
+#include "output/results_run.h"
 
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -18,26 +16,13 @@
 
 namespace {
 
-// Where a check ended before its lists were complete.
-struct CheckFault {
-    FaultKind kind;
-    // An analysis stage, or nothing for the depth ratio of the design exceptions.
-    std::optional<int> stage;
-    bool screenValue = false; // a value worked out for the screen, not the depth ratio
-};
-
-std::string FaultText(const CheckFault& fault) {
-    std::string text = FaultKindName(fault.kind);
-    if (fault.stage) {
-        text += " in stage " + std::to_string(*fault.stage) + " (" +
-                AnalysisStageName(*fault.stage) + ")";
-    } else if (fault.screenValue) {
-        text += ResultsValueFaultPlace;
-    } else {
-        text += " in the beam depth ratio of the design exceptions: a direction has no beam "
-                "group with both a depth and a quantity";
+std::string FaultText(const RunFault& fault) {
+    if (fault.place == RunFaultPlace::DesignExceptions) {
+        return FaultKindName(fault.kind) +
+               " in the beam depth ratio of the design exceptions: a direction has no beam "
+               "group with both a depth and a quantity";
     }
-    return text;
+    return RunFaultText(fault);
 }
 
 } // namespace
@@ -52,36 +37,20 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
     DesignRecord& record = loaded->record;
     ResultsRecord results;
 
-    std::optional<CheckFault> fault;
-    std::optional<CompliancePass> pass;
     ResultsScreen screen = LoadResultsScreen();
-    const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
-    if (outcome.faultKind) {
-        fault = CheckFault{*outcome.faultKind, outcome.faultStage};
-    } else {
-        const std::int16_t showAll = options.showAll ? 1 : 0;
-        screen.flags = {showAll, showAll, showAll};
-        try {
-            pass = FillResults(screen, record, results, options.settings);
-        } catch (const ArithmeticFault& exceptionsFault) {
-            fault = CheckFault{exceptionsFault.kind, std::nullopt};
-        } catch (const ResultsValueFault& valueFault) {
-            fault = CheckFault{valueFault.kind, std::nullopt, true};
-        }
-    }
+    const std::int16_t showAll = options.showAll ? 1 : 0;
+    screen.flags = {showAll, showAll, showAll};
+    const ResultsRun run = AnalyseAndFillResults(options.settings, record, results, screen);
+    const std::optional<RunFault>& fault = run.fault;
 
     if (options.json) {
         nlohmann::ordered_json document;
         document["version"] = loaded->version;
         document["fault"] = nullptr;
-        if (fault) {
-            document["fault"] = {{"kind", FaultKindName(fault->kind)}};
-            document["fault"]["stage"] =
-                fault->stage ? nlohmann::ordered_json(*fault->stage) : nullptr;
-        }
-        if (pass) {
-            AddCompliancePassJson(*pass, SummaryLinesShown(screen.form), document);
+        if (!fault) {
+            AddCompliancePassJson(run.pass, SummaryLinesShown(screen.form), document);
         } else {
+            document["fault"] = RunFaultJson(*fault);
             // Lists of a run that faulted would be incomplete and are not shown.
             for (const char* key : {"exceptions", "compliance", "RibbedOutCount", "summary"}) {
                 document[key] = nullptr;
@@ -94,7 +63,7 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
     } else {
         PrintProjectHeading("compliance check", options.project, loaded->version, options.settings,
                             record, out);
-        PrintCompliancePass(*pass, SummaryLinesShown(screen.form), options.colour, out);
+        PrintCompliancePass(run.pass, SummaryLinesShown(screen.form), options.colour, out);
     }
     return fault ? ExitEngineFault : ExitAnalysed;
 }

@@ -8,12 +8,7 @@
 
 int RunNewCommand(ProjectKind kind, const std::filesystem::path& output,
                   const DesignRecord& defaults, std::ostream& err) {
-    DesignRecord record = defaults;
-    record.NoDataFlag = 0;
-    record.SoilType = kind == ProjectKind::Compressible ? 1 : 0;
-    if (kind == ProjectKind::LineLoad) {
-        record.LineLoadType = 1;
-    }
+    const DesignRecord record = NewProjectRecord(defaults, kind);
     try {
         WriteDesignFile(output, AllSections, record);
     } catch (const FileError& error) {

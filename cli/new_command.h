@@ -1,12 +1,10 @@
 #pragma once
 
 #include "engine/design_record.h"
+#include "engine/project_kind.h"
 
 #include <filesystem>
 #include <iosfwd>
-
-// The three kinds of new project, as the main window's New command offers them.
-enum class ProjectKind { Expansive, Compressible, LineLoad };
 
 // Writes a new project from `defaults`, the default record of the settings store, with its
 // project texts as the default record has them: on expansive soil, on compressible soil, or on

@@ -3,10 +3,9 @@
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
 #include "cli/project_loading.h"
+#include "cli/run_fault_json.h"
 #include "cli/stderr_dialogs.h"
-#include "engine/analysis_run.h"
-#include "engine/project_analysis.h"
-#include "output/results_screen.h"
+#include "output/results_run.h"
 #include "reports/page_frame.h"
 #include "reports/qt/pdf_report.h"
 #include "reports/recording_surface.h"
@@ -84,9 +83,15 @@ nlohmann::ordered_json EmptyReportJson(int version) {
     return document;
 }
 
-nlohmann::ordered_json FaultJson(FaultKind kind, std::optional<int> stage) {
-    return {{"kind", FaultKindName(kind)},
-            {"stage", stage ? nlohmann::ordered_json(*stage) : nlohmann::ordered_json(nullptr)}};
+// What the error stream says of a fault, as the report has always said it.
+std::string ReportFaultText(const std::string& project, const RunFault& fault) {
+    if (fault.place == RunFaultPlace::DesignExceptions) {
+        return "korvath3-cli: the design exceptions of " + project +
+               " ended in a fault: " + FaultKindName(fault.kind) +
+               " in the beam depth ratio. No report is written.\n";
+    }
+    return "korvath3-cli: the analysis of " + project +
+           " ended in a fault: " + RunFaultText(fault) + ". No report is written.\n";
 }
 
 } // namespace
@@ -100,44 +105,18 @@ int RunReportCommand(const ReportOptions& options, std::ostream& out, std::ostre
     }
     DesignRecord& record = loaded->record;
     ResultsRecord results;
-    const AnalysisOutcome outcome = AnalyseProject(options.settings, record, results);
-    if (outcome.faultKind) {
-        err << "korvath3-cli: the analysis of " << options.project.string()
-            << " ended in a fault: " << FaultKindName(*outcome.faultKind) << " in stage "
-            << outcome.faultStage << " (" << AnalysisStageName(outcome.faultStage)
-            << "). No report is written.\n";
-        if (options.json) {
-            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
-            document["fault"] = FaultJson(*outcome.faultKind, outcome.faultStage);
-            out << document.dump(2) << '\n';
-        }
-        return ExitEngineFault;
-    }
     ResultsScreen screen = LoadResultsScreen();
-    CompliancePass pass;
-    try {
-        pass = FillResults(screen, record, results, options.settings);
-    } catch (const ArithmeticFault& fault) {
-        err << "korvath3-cli: the design exceptions of " << options.project.string()
-            << " ended in a fault: " << FaultKindName(fault.kind)
-            << " in the beam depth ratio. No report is written.\n";
+    const ResultsRun run = AnalyseAndFillResults(options.settings, record, results, screen);
+    if (run.fault) {
+        err << ReportFaultText(options.project.string(), *run.fault);
         if (options.json) {
             nlohmann::ordered_json document = EmptyReportJson(loaded->version);
-            document["fault"] = FaultJson(fault.kind, std::nullopt);
-            out << document.dump(2) << '\n';
-        }
-        return ExitEngineFault;
-    } catch (const ResultsValueFault& fault) {
-        err << "korvath3-cli: the analysis of " << options.project.string()
-            << " ended in a fault: " << FaultKindName(fault.kind) << ResultsValueFaultPlace
-            << ". No report is written.\n";
-        if (options.json) {
-            nlohmann::ordered_json document = EmptyReportJson(loaded->version);
-            document["fault"] = FaultJson(fault.kind, std::nullopt);
+            document["fault"] = RunFaultJson(*run.fault);
             out << document.dump(2) << '\n';
         }
         return ExitEngineFault;
     }
+    const CompliancePass& pass = run.pass;
 
     PrintDialog dialog = LoadPrintDialog();
     ChoosePrintRange(dialog, record, options.range);

@@ -1,18 +1,26 @@
 #pragma once
 
 #include "cli/summary_table.h"
+#include "compliance/mode_values.h"
 #include "engine/design_record.h"
 #include "engine/results_record.h"
 
-// The moment and the fibre stresses of one soil case, with their excesses, short and long.
-struct FibreStressRows {
-    const char* tensionFibre;
-    const char* compressionFibre;
-    double momentShort, momentLong;
-    double tensionShort, tensionLong, tensionExcessShort, tensionExcessLong;
-    double compressionShort, compressionLong, compressionExcessShort, compressionExcessLong;
+// The moments of one soil case, short and long: they are not held against a limit, so they are
+// not among the mode's compliance values.
+struct ModeMoments {
+    double momentShort;
+    double momentLong;
 };
-void PrintFibreStresses(SummaryTable& table, const FibreStressRows& rows, const ResultsRecord& r);
+
+// One of a mode's compliance values side by side, short and long.
+void PrintModePair(SummaryTable& table, const std::string& label, const std::string& unit,
+                   const ModeValues& values, double DirectionValues::*value, int decimals);
+
+// The moment and the fibre stresses of one soil case against their allowables, with their
+// excesses. The fibre in tension is named first.
+void PrintFibreStresses(SummaryTable& table, const char* tensionFibre, const char* compressionFibre,
+                        const ModeMoments& moments, const ModeValues& values,
+                        const ResultsRecord& r);
 
 // The groups of the command line's summary that apply to some projects only.
 void PrintExpansiveSoil(SummaryTable& table, const EngineSettings& settings,

@@ -2,50 +2,57 @@
 
 namespace {
 
+// A mode's stresses of the uniform slab, each with its excess: the fibre in tension first.
+void printUniformStresses(SummaryTable& table, const std::string& mode, const char* tensionFibre,
+                          const char* compressionFibre, const ModeValues& values) {
+    PrintModePair(table, mode + " stress, " + tensionFibre, "ksi", values,
+                  &DirectionValues::tension, 3);
+    PrintModePair(table, "  excess over tension", "%", values, &DirectionValues::tensionExcess, 1);
+    PrintModePair(table, mode + " stress, " + compressionFibre, "ksi", values,
+                  &DirectionValues::compression, 3);
+    PrintModePair(table, "  excess over compression", "%", values,
+                  &DirectionValues::compressionExcess, 1);
+}
+
+std::string crackExcessText(const DirectionValues& values) {
+    return values.crackValid ? FixedNumber(values.crackExcess, 1) : std::string("n/a");
+}
+
 void printUniformExpansive(SummaryTable& table, const ResultsRecord& r) {
-    table.pair("Center lift stress, top", "ksi", r.UTStressTopCLShort, r.UTStressTopCLLong, 3);
-    table.pair("  excess over tension", "%", r.UTExcessTopCLShort, r.UTExcessTopCLLong, 1);
-    table.pair("Center lift stress, bottom", "ksi", r.UTStressBotCLShort, r.UTStressBotCLLong, 3);
-    table.pair("  excess over compression", "%", r.UTExcessBotCLShort, r.UTExcessBotCLLong, 1);
-    table.pair("Edge lift stress, bottom", "ksi", r.UTStressBotELShort, r.UTStressBotELLong, 3);
-    table.pair("  excess over tension", "%", r.UTExcessBotELShort, r.UTExcessBotELLong, 1);
-    table.pair("Edge lift stress, top", "ksi", r.UTStressTopELShort, r.UTStressTopELLong, 3);
-    table.pair("  excess over compression", "%", r.UTExcessTopELShort, r.UTExcessTopELLong, 1);
-    table.pair("Stiffness excess, center lift", "%", r.UTExcessStiffCLShort, r.UTExcessStiffCLLong,
-               1);
-    table.pair("Stiffness excess, edge lift", "%", r.UTExcessStiffELShort, r.UTExcessStiffELLong,
-               1);
-    table.pair("Shear excess, center lift", "%", r.UTExcessShearCLShort, r.UTExcessShearCLLong, 1);
-    table.pair("Shear excess, edge lift", "%", r.UTExcessShearELShort, r.UTExcessShearELLong, 1);
-    const auto crack = [](std::int16_t valid, double excess) {
-        return valid ? FixedNumber(excess, 1) : std::string("n/a");
-    };
-    table.text("Cracked excess, center lift", "%",
-               crack(r.UTCrackValidCLShort, r.UTExcessCrackCLShort),
-               crack(r.UTCrackValidCLLong, r.UTExcessCrackCLLong));
-    table.text("Cracked excess, edge lift", "%",
-               crack(r.UTCrackValidELShort, r.UTExcessCrackELShort),
-               crack(r.UTCrackValidELLong, r.UTExcessCrackELLong));
+    const ModeValues centerLift = UniformCenterLiftValues(r);
+    const ModeValues edgeLift = UniformEdgeLiftValues(r);
+    printUniformStresses(table, "Center lift", "top", "bottom", centerLift);
+    printUniformStresses(table, "Edge lift", "bottom", "top", edgeLift);
+    PrintModePair(table, "Stiffness excess, center lift", "%", centerLift,
+                  &DirectionValues::demandExcess, 1);
+    PrintModePair(table, "Stiffness excess, edge lift", "%", edgeLift,
+                  &DirectionValues::demandExcess, 1);
+    PrintModePair(table, "Shear excess, center lift", "%", centerLift,
+                  &DirectionValues::shearExcess, 1);
+    PrintModePair(table, "Shear excess, edge lift", "%", edgeLift, &DirectionValues::shearExcess,
+                  1);
+    table.text("Cracked excess, center lift", "%", crackExcessText(centerLift.shortDirection),
+               crackExcessText(centerLift.longDirection));
+    table.text("Cracked excess, edge lift", "%", crackExcessText(edgeLift.shortDirection),
+               crackExcessText(edgeLift.longDirection));
 }
 
 void printUniformCompressible(SummaryTable& table, const DesignRecord& record,
                               const ResultsRecord& r) {
-    table.pair("Center down stress, bottom", "ksi", r.UTStressBotCDShort, r.UTStressBotCDLong, 3);
-    table.pair("  excess over tension", "%", r.UTExcessBotCDShort, r.UTExcessBotCDLong, 1);
-    table.pair("Center down stress, top", "ksi", r.UTStressTopCDShort, r.UTStressTopCDLong, 3);
-    table.pair("  excess over compression", "%", r.UTExcessTopCDShort, r.UTExcessTopCDLong, 1);
-    table.pair("Center down deflection excess", "%", r.UTExcessDeflCDShort, r.UTExcessDeflCDLong,
-               1);
-    table.pair("Center down shear excess", "%", r.UTExcessShearCDShort, r.UTExcessShearCDLong, 1);
+    const ModeValues centerDown = UniformCenterDownValues(r);
+    printUniformStresses(table, "Center down", "bottom", "top", centerDown);
+    PrintModePair(table, "Center down deflection excess", "%", centerDown,
+                  &DirectionValues::demandExcess, 1);
+    PrintModePair(table, "Center down shear excess", "%", centerDown, &DirectionValues::shearExcess,
+                  1);
     if (record.CLSettleState != 1) {
         return;
     }
-    table.pair("Edge down stress, top", "ksi", r.UTStressTopEDShort, r.UTStressTopEDLong, 3);
-    table.pair("  excess over tension", "%", r.UTExcessTopEDShort, r.UTExcessTopEDLong, 1);
-    table.pair("Edge down stress, bottom", "ksi", r.UTStressBotEDShort, r.UTStressBotEDLong, 3);
-    table.pair("  excess over compression", "%", r.UTExcessBotEDShort, r.UTExcessBotEDLong, 1);
-    table.pair("Edge down deflection excess", "%", r.UTExcessDeflEDShort, r.UTExcessDeflEDLong, 1);
-    table.pair("Edge down shear excess", "%", r.UTExcessShearEDShort, r.UTExcessShearEDLong, 1);
+    const ModeValues edgeDown = UniformEdgeDownValues(r);
+    printUniformStresses(table, "Edge down", "top", "bottom", edgeDown);
+    PrintModePair(table, "Edge down deflection excess", "%", edgeDown,
+                  &DirectionValues::demandExcess, 1);
+    PrintModePair(table, "Edge down shear excess", "%", edgeDown, &DirectionValues::shearExcess, 1);
 }
 
 } // namespace

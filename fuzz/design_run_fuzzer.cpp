@@ -3,11 +3,9 @@
 // recording surface. Each record must end in an input error, an engine fault, or results that
 // are all finite and a report whose every sheet is drawn.
 
-#include "compliance/compliance_pass.h"
-#include "engine/analysis_run.h"
 #include "engine/tendon_size.h"
 #include "input/record_values.h"
-#include "output/results_screen.h"
+#include "output/results_run.h"
 #include "reports/print_dialog.h"
 #include "reports/recording_surface.h"
 #include "reports/report_run.h"
@@ -90,9 +88,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0; // an input error: the program stops here with its message
     }
     ResultsRecord results;
-    try {
-        RunDesignEngine(settings, record, results);
-    } catch (const EngineFault&) {
+    // The screen stays loaded from one analysis to the next, as in the program.
+    static ResultsScreen screen = LoadResultsScreen();
+    const ResultsRun run = AnalyseAndFillResults(settings, record, results, screen);
+    if (run.fault && run.fault->place == RunFaultPlace::Stage) {
         return 0;
     }
     for (const ResultField& field : ResultsRecordFields()) {
@@ -100,16 +99,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Fail("a result is not finite");
         }
     }
-    // The screen stays loaded from one analysis to the next, as in the program.
-    static ResultsScreen screen = LoadResultsScreen();
-    CompliancePass pass;
-    try {
-        pass = FillResults(screen, record, results, settings);
-    } catch (const ArithmeticFault&) {
-        return 0;
-    } catch (const ResultsValueFault&) {
-        return 0; // a value too large to show ends the analysis as a fault
+    if (run.fault) {
+        return 0; // the design exceptions, or a value too large to show, end the run as a fault
     }
+    const CompliancePass& pass = run.pass;
     PrintJob job;
     job.pages = RangePages(PrintRange::Entire, record, {}, {});
     job.totalSheets = RangeSheetCount(PrintRange::Entire, record, {}, {});

@@ -5,7 +5,9 @@
 #include "reports/exceptions_page.h"
 #include "reports/input_data_pages.h"
 #include "reports/report_pages.h"
-#include "reports/results_pages.h"
+#include "reports/ribbed_results_pages.h"
+#include "reports/selected_variables_page.h"
+#include "reports/uniform_results_pages.h"
 
 PageProcedure FindPageProcedure(const std::string& name) {
     static const std::pair<const char*, PageProcedure> procedures[] = {

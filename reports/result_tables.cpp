@@ -122,3 +122,14 @@ void StressRows(PageWriter& w, const ResultsRecord& r, const StressTable& t) {
          Formatted(t.compressionShort, t.compressionPattern),
          Formatted(t.compressionLong, t.compressionPattern)});
 }
+
+StressTable ModeStressTable(std::string tensionCaption, std::string compressionCaption,
+                            const ModeValues& values, const char* compressionPattern) {
+    return {std::move(tensionCaption),
+            std::move(compressionCaption),
+            values.shortDirection.tension,
+            values.longDirection.tension,
+            values.shortDirection.compression,
+            values.longDirection.compression,
+            compressionPattern};
+}

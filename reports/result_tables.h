@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compliance/mode_values.h"
 #include "reports/page_writer.h"
 
 #include <string>
@@ -40,3 +41,8 @@ struct StressTable {
     const char* compressionPattern; // "###,##0.000", or "###,##0.00#" where the page says so
 };
 void StressRows(PageWriter& w, const ResultsRecord& r, const StressTable& table);
+
+// The stress table of an analysis mode from its compliance values: the fibre in tension, then
+// the fibre in compression, short and long.
+StressTable ModeStressTable(std::string tensionCaption, std::string compressionCaption,
+                            const ModeValues& values, const char* compressionPattern);

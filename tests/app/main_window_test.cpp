@@ -4,7 +4,7 @@
 #include "app/options_view.h"
 #include "app/results_view.h"
 #include "input/input_form.h"
-#include "shell/lifecycle/project_lifecycle.h"
+#include "lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 
 #include "tests/shell/shell_test_support.h"

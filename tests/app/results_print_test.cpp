@@ -1,9 +1,9 @@
 #include "app/main_window.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
-#include "shell/lifecycle/analysis_reset.h"
-#include "shell/lifecycle/print_commands.h"
-#include "shell/lifecycle/project_lifecycle.h"
+#include "lifecycle/analysis_reset.h"
+#include "lifecycle/print_commands.h"
+#include "lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 
 #include "tests/shell/shell_test_support.h"

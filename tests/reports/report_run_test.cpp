@@ -1,7 +1,9 @@
 #include "reports/input_data_pages.h"
 #include "reports/recording_surface.h"
 #include "reports/report_run.h"
-#include "reports/results_pages.h"
+#include "reports/ribbed_results_pages.h"
+#include "reports/selected_variables_page.h"
+#include "reports/uniform_results_pages.h"
 
 #include "tests/compliance/compliance_test_support.h"
 #include "tests/reports/report_test_support.h"

@@ -1,4 +1,4 @@
-#include "shell/lifecycle/print_commands.h"
+#include "lifecycle/print_commands.h"
 
 void PrintCommand(Program& program, const std::vector<std::string>& fonts,
                   const std::string& printerName, PrintPath path) {

@@ -1,4 +1,4 @@
-#include "shell/lifecycle/project_lifecycle.h"
+#include "lifecycle/project_lifecycle.h"
 
 #include "common/run_time_error.h"
 #include "input/input_checks.h"
@@ -248,12 +248,7 @@ void NewProjectReset(Program& program, ShellServices& services, ProjectKind kind
 
     // The default record becomes the screen; the design record takes it at the next copy from
     // the screen, but for the soil, which the soil list sets at once.
-    DesignRecord shown = program.settings.defaults;
-    shown.NoDataFlag = 0;
-    shown.SoilType = kind == ProjectKind::Compressible ? 1 : 0;
-    if (kind == ProjectKind::LineLoad) {
-        shown.LineLoadType = 1;
-    }
+    DesignRecord shown = NewProjectRecord(program.settings.defaults, kind);
     InputContext context{shown, program.settings.defaults, project, services.dialogs,
                          services.clock};
     WriteInputRecord(program.input, context, AllSections);

@@ -1,11 +1,11 @@
-#include "shell/lifecycle/options_dialog.h"
+#include "lifecycle/options_dialog.h"
 
 #include "common/run_time_error.h"
 #include "input/enabling_rules.h"
 #include "input/input_checks.h"
 #include "input/input_form.h"
+#include "lifecycle/program.h"
 #include "shell/file_association.h"
-#include "shell/lifecycle/program.h"
 #include "shell/options_form.h"
 #include "shell/recent_files.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/lifecycle/program.h"
+#include "engine/project_kind.h"
+#include "lifecycle/program.h"
 #include "shell/user_dialogs.h"
 #include "shell/window_placement.h"
 
@@ -9,8 +10,6 @@
 // The open project's lifecycle on the main window: new projects, opening, saving, the recent
 // files, the switch between input and results, and the end of the program. Every question and
 // message goes through the services' dialogs; a cancelled file dialog is silent.
-
-enum class ProjectKind { Expansive = 0, Compressible = 1, LineLoad = 2 };
 
 // The prompts for unsaved changes of each path that would lose the project.
 inline constexpr const char* NewPrompt = "Save before opening new project?";

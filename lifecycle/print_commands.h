@@ -1,7 +1,7 @@
 #pragma once
 
+#include "lifecycle/program.h"
 #include "reports/print_dialog.h"
-#include "shell/lifecycle/program.h"
 
 #include <optional>
 #include <string>

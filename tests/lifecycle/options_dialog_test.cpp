@@ -1,7 +1,7 @@
-#include "shell/lifecycle/options_dialog.h"
+#include "lifecycle/options_dialog.h"
 #include "shell/recent_files.h"
 
-#include "tests/shell/lifecycle_test_support.h"
+#include "tests/lifecycle/lifecycle_test_support.h"
 
 #include <gtest/gtest.h>
 

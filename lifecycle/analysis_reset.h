@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/lifecycle/program.h"
+#include "lifecycle/program.h"
 
 // The Analysis command: the input checked and copied into the record, the analysis run, the
 // results screen filled, arranged and shown in place of the input.

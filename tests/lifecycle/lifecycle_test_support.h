@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/lifecycle/program.h"
+#include "lifecycle/program.h"
 #include "shell/load_settings.h"
 #include "tests/shell/shell_test_support.h"
 #include "tests/test_files.h"

@@ -1,10 +1,10 @@
 #include "input/input_events.h"
-#include "shell/lifecycle/analysis_reset.h"
-#include "shell/lifecycle/print_commands.h"
-#include "shell/lifecycle/project_lifecycle.h"
+#include "lifecycle/analysis_reset.h"
+#include "lifecycle/print_commands.h"
+#include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
 
-#include "tests/shell/lifecycle_test_support.h"
+#include "tests/lifecycle/lifecycle_test_support.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "shell/lifecycle/analysis_reset.h"
+#include "lifecycle/analysis_reset.h"
 
 #include "common/run_time_error.h"
-#include "engine/analysis_run.h"
 #include "input/input_checks.h"
 #include "input/input_record.h"
+#include "output/results_run.h"
 #include "output/results_tabs.h"
 #include "storage/design_file.h"
 
@@ -39,20 +39,10 @@ AnalysisResult AnalysisReset(Program& program, ShellServices& services) {
     program.input.visible = false;
 
     const EngineSettings settings = program.settings.options.engineSettings();
-    try {
-        RunDesignEngine(settings, program.record, program.results);
-    } catch (const EngineFault& fault) {
-        return EndWithFault(services, FaultKindName(fault.kind()) + " in stage " +
-                                          std::to_string(fault.stage()) + " (" +
-                                          AnalysisStageName(fault.stage()) + ")");
-    }
-    try {
-        FillResults(program.output, program.record, program.results, settings);
-    } catch (const ArithmeticFault& fault) {
-        return EndWithFault(services, FaultKindName(fault.kind) +
-                                          " in the beam depth ratio of the design exceptions");
-    } catch (const ResultsValueFault& fault) {
-        return EndWithFault(services, FaultKindName(fault.kind) + ResultsValueFaultPlace);
+    const ResultsRun run =
+        AnalyseAndFillResults(settings, program.record, program.results, program.output);
+    if (run.fault) {
+        return EndWithFault(services, RunFaultText(*run.fault));
     }
     ArrangeResultsScreen(program.output, program.record, program.mainInnerWidth);
 
