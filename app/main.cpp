@@ -3,8 +3,8 @@
 #include "app/main_window.h"
 #include "app/qt_user_dialogs.h"
 #include "app/splash_screen.h"
-#include "shell/file_association.h"
 #include "lifecycle/project_lifecycle.h"
+#include "shell/file_association.h"
 #include "shell/program_folder.h"
 #include "shell/qt/settings_file_start.h"
 

@@ -1,9 +1,9 @@
 #include "app/print_view.h"
 
+#include "lifecycle/print_commands.h"
 #include "reports/qt/painter_surface.h"
 #include "reports/qt/pdf_report.h"
 #include "reports/report_pages.h"
-#include "lifecycle/print_commands.h"
 #include "storage/file_error.h"
 
 #include <QApplication>

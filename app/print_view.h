@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/form_widgets.h"
-#include "reports/report_run.h"
 #include "lifecycle/program.h"
+#include "reports/report_run.h"
 
 #include <QDialog>
 #include <QPrinter>
