@@ -2,6 +2,7 @@
 
 #include "cli/analyze_command.h"
 #include "cli/check_command.h"
+#include "cli/checks_command.h"
 #include "cli/exit_status.h"
 #include "cli/json_error.h"
 #include "cli/new_command.h"
@@ -120,6 +121,15 @@ int main(int argc, char** argv) {
         "check", "Analyse a project and print its PTI exceptions and design compliance");
     AddRunOptions(*checkCommand, check.project, check.json, checkFlags, checkNoCheck);
     checkCommand->add_flag("--show-all", check.showAll, "List the values within their limits too");
+
+    ChecksOptions checks;
+    SettingsFlags checksFlags;
+    bool checksNoCheck = false;
+    CLI::App* checksCommand = app.add_subcommand(
+        "checks", "Analyse a project and print every check with its demand, limit and ratio, and "
+                  "the verdict of each foundation");
+    AddRunOptions(*checksCommand, checks.project, checks.json, checksFlags, checksNoCheck);
+    checksCommand->add_flag("--failing", checks.failing, "List only the checks that are not ok");
 
     ResultsOptions results;
     SettingsFlags resultsFlags;
@@ -270,6 +280,13 @@ int main(int argc, char** argv) {
         check.defaults = settings.defaults;
         check.colour = ColourOnStandardOutput();
         return RunCheckCommand(check, std::cout, std::cerr);
+    }
+    if (*checksCommand) {
+        checks.check = !checksNoCheck;
+        checks.settings = checksFlags.over(settings.options);
+        checks.defaults = settings.defaults;
+        checks.colour = ColourOnStandardOutput();
+        return RunChecksCommand(checks, std::cout, std::cerr);
     }
     if (*resultsCommand) {
         results.check = !resultsNoCheck;
