@@ -59,6 +59,7 @@ int main(int argc, char** argv) {
     const std::vector<Subcommand> subcommands = {
         AddAnalyzeSubcommand(app),
         AddCheckSubcommand(app),
+        AddChecksSubcommand(app),
         AddResultsSubcommand(app),
         AddReportSubcommand(app),
         AddUpgradeSubcommand(app),

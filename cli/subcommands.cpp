@@ -3,6 +3,7 @@
 #include "cli/analysis_flags.h"
 #include "cli/analyze_command.h"
 #include "cli/check_command.h"
+#include "cli/checks_command.h"
 #include "cli/exit_status.h"
 #include "cli/new_command.h"
 #include "cli/report_command.h"
@@ -69,6 +70,22 @@ Subcommand AddCheckSubcommand(CLI::App& app) {
                 CheckOptions options = line->over(settings);
                 options.colour = ColourOnStandardOutput();
                 return RunCheckCommand(options, std::cout, std::cerr);
+            }};
+}
+
+Subcommand AddChecksSubcommand(CLI::App& app) {
+    auto line = std::make_shared<AnalysingLine<ChecksOptions>>();
+    CLI::App* command = app.add_subcommand(
+        "checks", "Analyse a project and print every check with its demand, limit and ratio, and "
+                  "the verdict of each foundation");
+    AddProjectAndJson(*command, line->options.project, line->options.json);
+    AddAnalysisOptions(*command, line->flags);
+    AddNoCheckFlag(*command, line->noCheck);
+    command->add_flag("--failing", line->options.failing, "List only the checks that are not ok");
+    return {command, [line](const ProgramSettings& settings) {
+                ChecksOptions options = line->over(settings);
+                options.colour = ColourOnStandardOutput();
+                return RunChecksCommand(options, std::cout, std::cerr);
             }};
 }
 

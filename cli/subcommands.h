@@ -17,6 +17,7 @@ struct Subcommand {
 // and errors to standard error.
 Subcommand AddAnalyzeSubcommand(CLI::App& app);
 Subcommand AddCheckSubcommand(CLI::App& app);
+Subcommand AddChecksSubcommand(CLI::App& app);
 Subcommand AddResultsSubcommand(CLI::App& app);
 Subcommand AddReportSubcommand(CLI::App& app);
 Subcommand AddUpgradeSubcommand(CLI::App& app);
