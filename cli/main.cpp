@@ -8,6 +8,7 @@
 #include "cli/optimize_command.h"
 #include "cli/report_command.h"
 #include "cli/results_command.h"
+#include "cli/sketch_command.h"
 #include "cli/stderr_dialogs.h"
 #include "cli/upgrade_command.h"
 #include "shell/program_folder.h"
@@ -185,6 +186,17 @@ int main(int argc, char** argv) {
     reportCommand->add_flag("--no-check", reportNoCheck,
                             "Run the analysis on the record as it stands, without input checks");
 
+    SketchOptions sketch;
+    bool sketchNoCheck = false;
+    CLI::App* sketchCommand = app.add_subcommand(
+        "sketch", "Draw the plan and typical sections of a project as SVG, PNG or PDF");
+    sketchCommand->add_option("PROJECT", sketch.project, "Project file (.kvt)")->required();
+    sketchCommand->add_option("-o,--output", sketch.output,
+                              "The drawing to write: FILE.svg, FILE.png or FILE.pdf");
+    sketchCommand->add_flag("--json", sketch.json, "Print the plan's geometry as JSON instead");
+    sketchCommand->add_flag("--no-check", sketchNoCheck,
+                            "Draw the record as it stands, without input checks");
+
     std::filesystem::path upgradeInput;
     std::filesystem::path upgradeOutput;
     CLI::App* upgradeCommand =
@@ -301,6 +313,25 @@ int main(int argc, char** argv) {
         int qtArgc = 1;
         QGuiApplication fonts(qtArgc, argv);
         return RunReportCommand(report, std::cout, std::cerr);
+    }
+    if (*sketchCommand) {
+        if (sketch.output.empty() == !sketch.json) {
+            std::cerr << "korvath3-cli sketch: give either --output or --json\n";
+            if (wantsJson) {
+                PrintJsonError({ExitBadUsage, "give either --output or --json", ""}, std::cout);
+            }
+            return ExitBadUsage;
+        }
+        sketch.check = !sketchNoCheck;
+        sketch.settings = settings.options.engineSettings();
+        sketch.defaults = settings.defaults;
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        int qtArgc = 1;
+        QGuiApplication fonts(qtArgc, argv);
+        return RunSketchCommand(sketch, std::cout, std::cerr);
     }
     if (*optimizeCommand) {
         optimize.settings = optimizeFlags.over(settings.options);
