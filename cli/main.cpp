@@ -62,6 +62,7 @@ int main(int argc, char** argv) {
         AddChecksSubcommand(app),
         AddResultsSubcommand(app),
         AddReportSubcommand(app),
+        AddSketchSubcommand(app),
         AddUpgradeSubcommand(app),
         AddNewSubcommand(app),
         AddOptimizeSubcommand(app, RunInterruptibleSearch),
