@@ -50,21 +50,22 @@ void ListLineLoad(ListTarget& target, double slabThickness, const LineLoadRows& 
 } // namespace
 
 void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
-                      std::int16_t& centerLift, std::int16_t& edgeLift, std::int16_t& centerDown,
-                      std::int16_t& edgeDown, std::int16_t& bearing, std::int16_t& cracked,
-                      std::int16_t showAll, StyledText& box) {
+                      RibbedCounters& counters, std::int16_t showAll, StyledText& box) {
     Clear(box);
     ListTarget target;
     target.box = &box;
-    RibbedCompliance(record, results, centerLift, edgeLift, centerDown, edgeDown, bearing, cracked,
-                     showAll, target);
+    RibbedCompliance(record, results, counters, showAll, target);
 }
 
 void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
-                      std::int16_t& centerLift, std::int16_t& edgeLift, std::int16_t& centerDown,
-                      std::int16_t& edgeDown, std::int16_t& bearing, std::int16_t& cracked,
-                      std::int16_t showAll, ListTarget& target) {
+                      RibbedCounters& counters, std::int16_t showAll, ListTarget& target) {
     const bool all = showAll != 0;
+    std::int16_t& centerLift = counters.centerLift;
+    std::int16_t& edgeLift = counters.edgeLift;
+    std::int16_t& centerDown = counters.centerDown;
+    std::int16_t& edgeDown = counters.edgeDown;
+    std::int16_t& bearing = counters.bearing;
+    std::int16_t& cracked = counters.cracked;
 
     if (record.SoilType == ExpansiveSoil) {
         ListSoilBearing(target, SoilBearingRow(record, results), bearing, all);
@@ -94,21 +95,22 @@ void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
 }
 
 void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
-                       std::int16_t ribbedOutCount, std::int16_t& centerLift,
-                       std::int16_t& edgeLift, std::int16_t& centerDown, std::int16_t& edgeDown,
-                       std::int16_t showAll, StyledText& box) {
+                       std::int16_t ribbedOutCount, UniformCounters& counters, std::int16_t showAll,
+                       StyledText& box) {
     Clear(box);
     ListTarget target;
     target.box = &box;
-    UniformCompliance(record, results, ribbedOutCount, centerLift, edgeLift, centerDown, edgeDown,
-                      showAll, target);
+    UniformCompliance(record, results, ribbedOutCount, counters, showAll, target);
 }
 
 void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
-                       std::int16_t ribbedOutCount, std::int16_t& centerLift,
-                       std::int16_t& edgeLift, std::int16_t& centerDown, std::int16_t& edgeDown,
-                       std::int16_t showAll, ListTarget& target) {
+                       std::int16_t ribbedOutCount, UniformCounters& counters, std::int16_t showAll,
+                       ListTarget& target) {
     const bool all = showAll != 0;
+    std::int16_t& centerLift = counters.centerLift;
+    std::int16_t& edgeLift = counters.edgeLift;
+    std::int16_t& centerDown = counters.centerDown;
+    std::int16_t& edgeDown = counters.edgeDown;
 
     // The uniform thickness foundation is derived from the ribbed one, so the ribbed
     // foundation's compliance heads its list; the sections below are listed either way.
@@ -147,19 +149,18 @@ void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
 }
 
 void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
-                        std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
-                        StyledText& box) {
+                        LineLoadCounters& counters, std::int16_t showAll, StyledText& box) {
     Clear(box);
     ListTarget target;
     target.box = &box;
-    LineLoadCompliance(record, results, ribbed, uniform, showAll, target);
+    LineLoadCompliance(record, results, counters, showAll, target);
 }
 
 void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
-                        std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
-                        ListTarget& target) {
-    ListLineLoad(target, record.SlabThick, RibbedLineLoadRows(results), ribbed, showAll);
+                        LineLoadCounters& counters, std::int16_t showAll, ListTarget& target) {
+    ListLineLoad(target, record.SlabThick, RibbedLineLoadRows(results), counters.ribbed, showAll);
     if (record.FlatSlab == 1) {
-        ListLineLoad(target, results.UTThickness, UniformLineLoadRows(results), uniform, showAll);
+        ListLineLoad(target, results.UTThickness, UniformLineLoadRows(results), counters.uniform,
+                     showAll);
     }
 }

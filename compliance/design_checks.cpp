@@ -266,8 +266,7 @@ void AddUniformRules(TableWriter& w, const DesignRecord& record, const ResultsRe
     const std::int16_t ribbedExceptions = CountBroken(RibbedRulesBroken(record, r));
     RibbedCounters c;
     ListTarget countOnly;
-    RibbedCompliance(record, r, c.centerLift, c.edgeLift, c.centerDown, c.edgeDown, c.bearing,
-                     c.cracked, 0, countOnly);
+    RibbedCompliance(record, r, c, 0, countOnly);
     const std::int16_t ribbedOut = RibbedOutCountFor(record.SoilType, c);
     const UniformRules broken = UniformRulesBroken(record, r, ribbedExceptions);
     const auto none = CheckDirection::None;
