@@ -1,6 +1,7 @@
 #include "app/form_widgets.h"
 
 #include "input/input_events.h"
+#include "input/number_entry.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,7 +17,9 @@
 #include <QRadioButton>
 #include <QStringList>
 #include <QToolButton>
+#include <QValidator>
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -24,6 +27,21 @@ namespace {
 bool Starts(const std::string& name, const char* prefix) {
     return name.rfind(prefix, 0) == 0;
 }
+
+// Refuses an edit (a key or a paste) that would leave a number box holding what is no number,
+// by the model's rule for that box. Text set by the program is not checked.
+class NumberBoxValidator : public QValidator {
+  public:
+    NumberBoxValidator(std::string box, QObject* parent)
+        : QValidator(parent), m_box(std::move(box)) {}
+
+    State validate(QString& text, int&) const override {
+        return AcceptsNumberText(m_box, text.toStdString()) ? Acceptable : Invalid;
+    }
+
+  private:
+    std::string m_box;
+};
 
 QToolButton* ArrowButton(Qt::ArrowType arrow, QWidget* parent) {
     auto* button = new QToolButton(parent);
@@ -66,6 +84,7 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
         }
         if (!IsTextField(name)) {
             edit->setMaximumWidth(150); // a number: as wide as its digits need
+            edit->setValidator(new NumberBoxValidator(name, edit));
         }
         connect(edit, &QLineEdit::textEdited, this, [this, name](const QString& text) {
             if (!m_refreshing && m_events.change) {
@@ -194,6 +213,10 @@ void FormWidgets::Refresh(const FormModel& form) {
             }
         } else if (auto* button = qobject_cast<QRadioButton*>(widget)) {
             button->setChecked(control.checked);
+            // Of an option group only the chosen button is a tab stop; the others still take
+            // a click.
+            button->setFocusPolicy(control.checked && control.tabStop ? Qt::StrongFocus
+                                                                      : Qt::ClickFocus);
         } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
             if (!control.caption.empty()) {
                 group->setTitle(CaptionText(control.caption));
@@ -213,18 +236,44 @@ void FormWidgets::Refresh(const FormModel& form) {
             }
         }
     }
-    if (QWidget* focus = Find(form.focus)) {
+    QWidget* focus = Find(form.focus);
+    if (focus != nullptr) {
         if (!focus->hasFocus() && focus->isVisible() && focus->isEnabled()) {
             focus->setFocus(Qt::OtherFocusReason);
         }
-        if (auto* edit = qobject_cast<QLineEdit*>(focus)) {
+        // The model's selection is made once per request: the keys typed next must edit the
+        // text, not replace it again.
+        auto* edit = qobject_cast<QLineEdit*>(focus);
+        if (edit != nullptr && form.selectionRequests != m_selectionRequests) {
             const Control& control = form[form.focus];
             if (control.selLength > 0) {
                 edit->setSelection(control.selStart, control.selLength);
             }
+            m_selectionRequests = form.selectionRequests;
         }
     }
     m_refreshing = false;
+}
+
+bool FormWidgets::ChooseNeighbour(const std::string& button, int step) {
+    const std::size_t open = button.find('(');
+    if (open == std::string::npos || !m_events.click) {
+        return false;
+    }
+    const std::string group = button.substr(0, open);
+    const int index = std::atoi(button.c_str() + open + 1);
+    for (int next = index + step; next >= 0; next += step) {
+        QWidget* widget = Find(group + "(" + std::to_string(next) + ")");
+        if (widget == nullptr) {
+            return false;
+        }
+        if (widget->isEnabled() && widget->isVisible()) {
+            m_events.click(group + "(" + std::to_string(next) + ")");
+            widget->setFocus(Qt::OtherFocusReason);
+            return true;
+        }
+    }
+    return false;
 }
 
 void FormWidgets::OrderTabs(const FormModel& form) {
@@ -249,6 +298,17 @@ bool FormWidgets::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress: {
         auto* key = static_cast<QKeyEvent*>(event);
+        if (qobject_cast<QRadioButton*>(watched) != nullptr) {
+            // The arrows choose the next or the previous button of the group, the only way
+            // the keyboard reaches the buttons that are not tab stops.
+            const int step = key->key() == Qt::Key_Down || key->key() == Qt::Key_Right ? 1
+                             : key->key() == Qt::Key_Up || key->key() == Qt::Key_Left  ? -1
+                                                                                       : 0;
+            if (step != 0 && ChooseNeighbour(name, step)) {
+                return true;
+            }
+            break;
+        }
         if (!qobject_cast<QLineEdit*>(watched) || !m_events.key) {
             break;
         }

@@ -57,3 +57,10 @@ bool IsShown(const FormModel& form, std::string_view name) {
     }
     return true;
 }
+
+void SelectWholeText(FormModel& form, std::string_view box) {
+    Control& control = form[box];
+    control.selStart = 0;
+    control.selLength = static_cast<int>(control.text.size());
+    ++form.selectionRequests;
+}
