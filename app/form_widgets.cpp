@@ -24,6 +24,9 @@
 
 namespace {
 
+constexpr int TextBoxCharacters = 40;
+constexpr int TextBoxPadding = 12; // the frame and margins of a line edit
+
 bool Starts(const std::string& name, const char* prefix) {
     return name.rfind(prefix, 0) == 0;
 }
@@ -82,7 +85,11 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
         if (control.maxLength > 0) {
             edit->setMaxLength(control.maxLength);
         }
-        if (!IsTextField(name)) {
+        if (IsTextField(name)) {
+            // A name, an engineer or a firm shows 40 characters without scrolling.
+            edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * TextBoxCharacters +
+                                  TextBoxPadding);
+        } else {
             edit->setMaximumWidth(150); // a number: as wide as its digits need
             edit->setValidator(new NumberBoxValidator(name, edit));
         }
@@ -213,10 +220,9 @@ void FormWidgets::Refresh(const FormModel& form) {
             }
         } else if (auto* button = qobject_cast<QRadioButton*>(widget)) {
             button->setChecked(control.checked);
-            // Of an option group only the chosen button is a tab stop; the others still take
-            // a click.
-            button->setFocusPolicy(control.checked && control.tabStop ? Qt::StrongFocus
-                                                                      : Qt::ClickFocus);
+            // Of an option group only the chosen button is a tab stop, whichever it is; the
+            // others take a click or an arrow key.
+            button->setFocusPolicy(control.checked ? Qt::StrongFocus : Qt::ClickFocus);
         } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
             if (!control.caption.empty()) {
                 group->setTitle(CaptionText(control.caption));

@@ -8,6 +8,7 @@
 
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStyle>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -91,6 +92,8 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
 
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName("tabInput");
+    // All seven captions stand in full; the panel beside the pages gives way.
+    m_tabs->setUsesScrollButtons(false);
     const FormModel& form = m_program.input.form;
     const FormModel noCaptions;
     for (int page = 1; page <= InputPageCount; ++page) {
@@ -116,10 +119,20 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
         After();
     });
     m_widgets->OrderTabs(form);
+    for (const auto& [keys, step] :
+         {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | keys), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, step = step] {
+            InputContext context = Context();
+            StepPage(m_program.input, context, step);
+            After();
+        });
+    }
 
     m_info = new QTextBrowser(this);
     m_info->setObjectName("rtbMoreInfo");
-    m_info->setMinimumWidth(300);
+    m_info->setMinimumWidth(180);
     m_info->setMaximumWidth(380);
 
     auto* pages = new QVBoxLayout;

@@ -2,6 +2,7 @@
 
 #include "app/styled_text_html.h"
 #include "output/compliance_pages.h"
+#include "output/results_paging.h"
 #include "output/results_tabs.h"
 
 #include <QCheckBox>
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -42,6 +44,9 @@ ResultsView::ResultsView(ResultsScreen& screen, const DesignRecord& record,
     m_ribbed->setProperty("frame", "fraMain(1)");
     m_uniform = new QTabWidget(this);
     m_uniform->setObjectName("tabUniform");
+    for (QTabWidget* strip : {m_main, m_ribbed, m_uniform}) {
+        strip->setUsesScrollButtons(false);
+    }
     for (const ResultPage& page : m_screen.pages) {
         m_pages[page.frame] = MakePage(page);
         m_pages[page.frame]->hide(); // shown only in a tab
@@ -66,6 +71,15 @@ ResultsView::ResultsView(ResultsScreen& screen, const DesignRecord& record,
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_main);
+    for (const auto& [keys, step] :
+         {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | keys), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, step = step] {
+            StepResultsPage(m_screen, m_record, step);
+            Refresh();
+        });
+    }
 }
 
 std::vector<QWidget*> ResultsView::Widgets(const std::string& name) const {
@@ -181,7 +195,9 @@ void ResultsView::FillTabs(QTabWidget* tabs, const TabStrip& strip,
     }
     for (int tab = 1; tab <= strip.count(); ++tab) {
         QWidget* page = m_pages.at(ArrayName(array, frameOf(tab)));
-        tabs->addTab(page, Text(strip.captions[static_cast<std::size_t>(tab - 1)]));
+        // The classic captions are padded with blanks to widen their tabs; without them every
+        // tab of the strip stands in the window's width.
+        tabs->addTab(page, Text(strip.captions[static_cast<std::size_t>(tab - 1)]).trimmed());
     }
     tabs->setCurrentIndex(strip.selected - 1);
 }
