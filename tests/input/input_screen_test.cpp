@@ -351,3 +351,19 @@ TEST(InputScreen, TheSelectionOfACheckIsUsedUpByTheFirstKey) {
     EXPECT_FALSE(CheckRecordValues(f.screen, f.context));
     EXPECT_EQ(PlainText(f.screen.moreInfo), PlainText(asked));
 }
+
+TEST(InputScreen, PageKeysStepThroughThePagesAndGoRound) {
+    InputFixture f;
+    SelectPage(f.screen, f.context, 1);
+    StepPage(f.screen, f.context, 1);
+    EXPECT_EQ(f.screen.CurrentInputTab, 2);
+    EXPECT_EQ(f["tabInput"].selectedIndex, 1);
+    EXPECT_EQ(f["tlbInput(1)"].toolTip, "Open Material Properties File");
+    StepPage(f.screen, f.context, -1);
+    StepPage(f.screen, f.context, -1);
+    EXPECT_EQ(f.screen.CurrentInputTab, 7);
+    EXPECT_TRUE(f["fraInput(6)"].visible);
+    EXPECT_FALSE(f["fraInput(0)"].visible);
+    StepPage(f.screen, f.context, 1);
+    EXPECT_EQ(f.screen.CurrentInputTab, 1);
+}
