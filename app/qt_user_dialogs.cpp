@@ -1,7 +1,9 @@
 #include "app/qt_user_dialogs.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace {
 
@@ -44,8 +46,7 @@ constexpr int FileDialogWidth = 900;
 constexpr int FileDialogHeight = 560;
 
 std::optional<std::string> RunFileDialog(QFileDialog& dialog) {
-    dialog.setViewMode(QFileDialog::Detail);
-    dialog.resize(FileDialogWidth, FileDialogHeight);
+    PrepareFileDialog(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
@@ -53,6 +54,21 @@ std::optional<std::string> RunFileDialog(QFileDialog& dialog) {
 }
 
 } // namespace
+
+void PrepareFileDialog(QFileDialog& dialog) {
+    dialog.setViewMode(QFileDialog::Detail);
+    dialog.resize(FileDialogWidth, FileDialogHeight);
+    // Qt's own dialog (the platform's may stand in for it) gives the size, kind and date columns
+    // the width of what they hold; the name takes the rest.
+    if (auto* files = dialog.findChild<QTreeView*>("treeView")) {
+        QHeaderView* header = files->header();
+        header->setStretchLastSection(false);
+        header->setSectionResizeMode(0, QHeaderView::Stretch);
+        for (int column = 1; column < header->count(); ++column) {
+            header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+        }
+    }
+}
 
 std::string QtNameFilters(const std::string& filter) {
     std::string filters;

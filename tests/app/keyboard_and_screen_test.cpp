@@ -3,6 +3,7 @@
 // the width of the input screen, on a window of 1280 by 800.
 
 #include "app/main_window.h"
+#include "app/qt_user_dialogs.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 
@@ -11,6 +12,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,6 +22,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeView>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -194,4 +198,37 @@ TEST(FoundInUse, DisabledToolbarButtonsAreGreyedAndTheInputScreenFits) {
     EXPECT_LE(tabs->tabBar()->sizeHint().width(), tabs->width());
     EXPECT_LE(d.window.minimumSizeHint().width(), 1280);
     EXPECT_LE(d.window.minimumSizeHint().height(), 800);
+}
+
+TEST(FoundInUse, FileDialogsShowTheNameSizeAndDateColumnsInFull) {
+    QFileDialog dialog(nullptr, "Open Project ...", QString(K3_SOURCE_DIR) + "/examples",
+                       "Projects (*.kvt)");
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    PrepareFileDialog(dialog);
+    dialog.show();
+    auto* files = dialog.findChild<QTreeView*>("treeView");
+    ASSERT_TRUE(files);
+    // The folder is read in the background: wait until its three projects are listed.
+    for (int i = 0; i < 100 && files->model()->rowCount(files->rootIndex()) < 3; ++i) {
+        QTest::qWait(20);
+    }
+    ASSERT_EQ(files->model()->rowCount(files->rootIndex()), 3);
+    QApplication::processEvents();
+    EXPECT_GE(dialog.width(), 900);
+    EXPECT_LE(dialog.width(), 1280);
+    EXPECT_LE(dialog.height(), 800);
+    QHeaderView* header = files->header();
+    for (int column = 0; column < header->count(); ++column) {
+        if (header->isSectionHidden(column)) {
+            continue;
+        }
+        // Every entry of the column, and its heading, stands in full.
+        const QAbstractItemModel* model = files->model();
+        for (int row = 0; row < model->rowCount(files->rootIndex()); ++row) {
+            const QString text = model->index(row, column, files->rootIndex()).data().toString();
+            EXPECT_GE(header->sectionSize(column), files->fontMetrics().horizontalAdvance(text))
+                << text.toStdString();
+        }
+    }
+    dialog.close();
 }
