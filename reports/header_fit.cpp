@@ -1,5 +1,7 @@
 #include "reports/header_fit.h"
 
+#include <algorithm>
+
 namespace {
 
 // Sizes are tried in half points, from just below 10 down to 6.
@@ -20,6 +22,23 @@ void DropLastCharacter(std::string& text) {
     }
 }
 
+// Drops an incomplete UTF-8 sequence left at the end by a cut at a byte.
+void DropPartialCharacter(std::string& text) {
+    std::size_t start = text.size();
+    while (start > 0 && (static_cast<unsigned char>(text[start - 1]) & 0xC0) == 0x80) {
+        --start;
+    }
+    if (start == 0) {
+        text.clear();
+        return;
+    }
+    const unsigned char lead = static_cast<unsigned char>(text[start - 1]);
+    const std::size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (text.size() - (start - 1) < length) {
+        text.resize(start - 1);
+    }
+}
+
 } // namespace
 
 void DrawFittedText(DrawingSurface& surface, double x, double y, double limit,
@@ -34,8 +53,25 @@ void DrawFittedText(DrawingSurface& surface, double x, double y, double limit,
     }
     std::string shown = text;
     if (surface.TextWidth(shown) > room) {
+        // A first cut in proportion to the room, so that a very long text is not shortened one
+        // letter at a time, then letter by letter until the text and the mark fit.
+        const double markWidth = surface.TextWidth(CutMark);
+        const double share = std::max(0.0, room - markWidth) / surface.TextWidth(shown);
+        shown.resize(static_cast<std::size_t>(static_cast<double>(shown.size()) * share) + 1);
+        DropPartialCharacter(shown);
         while (!shown.empty() && surface.TextWidth(shown + CutMark) > room) {
             DropLastCharacter(shown);
+        }
+        // Narrow letters at the start may leave room for more.
+        while (shown.size() < text.size()) {
+            std::size_t next = shown.size() + 1;
+            while (next < text.size() && (static_cast<unsigned char>(text[next]) & 0xC0) == 0x80) {
+                ++next;
+            }
+            if (surface.TextWidth(text.substr(0, next) + CutMark) > room) {
+                break;
+            }
+            shown = text.substr(0, next);
         }
         shown += CutMark;
     }

@@ -183,9 +183,15 @@ TEST(ReportHeader, ShortTextsPrintAsAlwaysAndLongOnesShrinkThenAreCut) {
     EXPECT_EQ(cut.text, "MMMM...");
     EXPECT_EQ(cut.size, 6);
 
+    // Narrow letters before wide ones: the cut keeps as many as fit, "iiiiiiii" (8 x 222) and
+    // "WW" (2 x 944) and the mark (834) thousandths at 6 point, 539.76 twips, in 600; a third W
+    // (113.28 more) does not.
+    DrawFittedText(surface, 1000, 500, 1600, "iiiiiiiiWWWWWWWWWWWWWWWWWWWW");
+    EXPECT_EQ(surface.sheets().back().texts.back().text, "iiiiiiiiWW...");
+
     // A cut never splits a letter of more than one byte.
     DrawFittedText(surface, 1000, 500, 1300, "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9");
-    const std::string accented = surface.sheets().back().texts[2].text;
+    const std::string accented = surface.sheets().back().texts.back().text;
     EXPECT_EQ(accented.substr(accented.size() - 3), "...");
     EXPECT_EQ((accented.size() - 3) % 2, 0u);
 }
