@@ -55,7 +55,7 @@ void ReadMaterialBlock(const FormModel& form, DesignRecord& r) {
     try {
         ApplyTendonSize(r);
     } catch (const ArithmeticFault&) {
-        throw RunTimeError(5); // a negative area has no diameter
+        throw UnreadableField(5, "txtTendArea"); // a negative area has no diameter
     }
 }
 

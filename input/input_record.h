@@ -21,9 +21,9 @@
 // - `SoilType` is not read here: the soil list sets it at once.
 //
 // A number that cannot be read throws RunTimeError 13 (type mismatch), a count outside 16 bits
-// RunTimeError 6 (overflow), both as an UnreadableField that names the box, and a negative custom
-// tendon area RunTimeError 5 (it has no diameter). The record may then hold the fields copied
-// before the failure.
+// RunTimeError 6 (overflow), and a negative custom tendon area RunTimeError 5 (it has no
+// diameter), each as an UnreadableField that names the box. The record may then hold the fields
+// copied before the failure.
 void ReadInputRecord(const FormModel& form, DesignRecord& record, int selector);
 
 // Shows the record on the screen: selector 0 to 6 one page (3 the beams), 10 all. Numbers show

@@ -161,6 +161,9 @@ std::string FieldCaption(std::string_view box) {
 
 std::string UnreadableFieldMessage(const UnreadableField& error, std::string_view text) {
     const std::string quoted = "\"" + std::string(text) + "\"";
+    if (error.number() == 5) {
+        return FieldCaption(error.box()) + ": " + quoted + " is not an area a tendon can have.";
+    }
     if (error.number() == 6) {
         return FieldCaption(error.box()) + ": the number " + quoted + " is too large.";
     }

@@ -17,7 +17,7 @@
 bool AcceptsNumberText(std::string_view box, std::string_view text);
 
 // A number box whose text could not be read into the record: the run-time error of the
-// conversion (13 type mismatch, 6 overflow) and the box.
+// conversion (13 type mismatch, 6 overflow, 5 for a tendon area below zero) and the box.
 class UnreadableField : public RunTimeError {
   public:
     UnreadableField(int number, std::string box) : RunTimeError(number), m_box(std::move(box)) {}

@@ -88,3 +88,18 @@ TEST(NumberEntry, ATextThatIsNoNumberIsNamedAndTheUserTakenToIt) {
         }
     }
 }
+
+TEST(NumberEntry, ANegativeTendonAreaIsNamedToo) {
+    InputFixture f;
+    Click(f.screen, f.context, "optTendType(3)");
+    f["txtTendArea"].text = "-.1"; // pasted: the sign is a number's
+    try {
+        ReadInputRecord(f.screen.form, f.record, 10);
+        FAIL() << "the area was read";
+    } catch (const UnreadableField& error) {
+        EXPECT_EQ(error.number(), 5);
+        EXPECT_EQ(UnreadableFieldMessage(error, "-.1"),
+                  "Tendon Diameter, Other: Area (Sq. In): \"-.1\" is not an area a tendon can "
+                  "have.");
+    }
+}
