@@ -2,6 +2,7 @@
 
 #include "app/input_layout.h"
 #include "app/styled_text_html.h"
+#include "app/visible_focus.h"
 #include "input/input_events.h"
 #include "input/input_form.h"
 #include "input/tab_files.h"
@@ -77,6 +78,12 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
     m_save->setText("Save");
     m_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
     m_save->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    // The page file buttons have no menu item: they stay tab stops, with a frame that shows
+    // when they have the focus.
+    for (QToolButton* button : {m_open, m_save}) {
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setStyleSheet(VisibleFocusStyle("QToolButton"));
+    }
     toolbar->addWidget(m_open);
     toolbar->addWidget(m_save);
     connect(m_open, &QToolButton::clicked, this, [this] {
@@ -98,6 +105,7 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
     const FormModel noCaptions;
     for (int page = 1; page <= InputPageCount; ++page) {
         auto* scroll = new QScrollArea(m_tabs);
+        scroll->setFocusPolicy(Qt::NoFocus); // the page's fields take the focus, not the page
         scroll->setWidgetResizable(true);
         scroll->setFrameShape(QFrame::NoFrame);
         auto* host = new QWidget(scroll);
@@ -133,6 +141,8 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
     m_info = new QTextBrowser(this);
     m_info->setObjectName("rtbMoreInfo");
     m_info->setMinimumWidth(180);
+    // The panel explains; it is read, not typed into, and stands outside the tab sequence.
+    m_info->setFocusPolicy(Qt::ClickFocus);
     m_info->setMaximumWidth(380);
 
     auto* pages = new QVBoxLayout;

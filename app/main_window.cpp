@@ -173,6 +173,9 @@ void MainWindow::BuildToolbar() {
         tool->setText(QString::fromStdString(key));
         tool->setIcon(ToolbarIcon(style()->standardIcon(icon)));
         tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        // Every button's command is a menu item with its access key; the toolbar is for the
+        // mouse and stays out of the tab sequence.
+        tool->setFocusPolicy(Qt::NoFocus);
         toolbar->addWidget(tool);
         m_buttons[key] = tool;
         return tool;

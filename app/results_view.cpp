@@ -1,6 +1,7 @@
 #include "app/results_view.h"
 
 #include "app/styled_text_html.h"
+#include "app/visible_focus.h"
 #include "output/compliance_pages.h"
 #include "output/results_paging.h"
 #include "output/results_tabs.h"
@@ -89,6 +90,7 @@ std::vector<QWidget*> ResultsView::Widgets(const std::string& name) const {
 
 QWidget* ResultsView::MakePage(const ResultPage& page) {
     auto* scroll = new QScrollArea(this);
+    scroll->setFocusPolicy(Qt::NoFocus); // the page's boxes and lists take the focus
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto* host = new QWidget(scroll);
@@ -144,6 +146,7 @@ QWidget* ResultsView::MakePage(const ResultPage& page) {
         case RowKind::List: {
             auto* list = new QTextBrowser(host);
             list->setMinimumHeight(360);
+            list->setStyleSheet(VisibleFocusStyle("QTextBrowser"));
             // The list runs across the whole page, the stretching column included.
             grid->addWidget(named(list, row.caption), r, 0, 1, UnitColumn + 2);
             cells.push_back(list);

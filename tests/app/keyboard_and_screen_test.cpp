@@ -4,6 +4,7 @@
 
 #include "app/main_window.h"
 #include "app/qt_user_dialogs.h"
+#include "app/results_view.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 
@@ -231,4 +232,45 @@ TEST(FoundInUse, FileDialogsShowTheNameSizeAndDateColumnsInFull) {
         }
     }
     dialog.close();
+}
+
+namespace {
+
+// The tab stops of a window that are shown and enabled, by their class and name, whose focus the
+// style does not draw and no style sheet marks.
+std::vector<std::string> TabStopsWithoutVisibleFocus(QWidget* window) {
+    const std::set<std::string> drawn = {"QLineEdit",   "QCheckBox", "QRadioButton",
+                                         "QPushButton", "QComboBox", "QTabBar"};
+    std::vector<std::string> hidden;
+    QWidget* widget = window;
+    do {
+        widget = widget->nextInFocusChain();
+        const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible() &&
+                          widget->isEnabled() && widget->focusProxy() == nullptr;
+        const std::string kind = widget->metaObject()->className();
+        if (stop && drawn.count(kind) == 0 && !widget->styleSheet().contains(":focus")) {
+            hidden.push_back(kind + " " + widget->objectName().toStdString());
+        }
+    } while (widget != window);
+    return hidden;
+}
+
+} // namespace
+
+TEST(FoundInUse, EveryTabStopShowsWhereTheFocusIs) {
+    Desktop d("compressible_edge_down");
+    for (int page = 0; page < 7; ++page) {
+        d.Find<QTabWidget>("tabInput")->setCurrentIndex(page);
+        QApplication::processEvents();
+        EXPECT_EQ(TabStopsWithoutVisibleFocus(&d.window), std::vector<std::string>{})
+            << "input page " << page + 1;
+    }
+    d.window.Action("mnuAnalysis")->trigger();
+    QApplication::processEvents();
+    ASSERT_TRUE(d.program.output.visible);
+    for (int step = 0; step < 9; ++step) {
+        EXPECT_EQ(TabStopsWithoutVisibleFocus(&d.window), std::vector<std::string>{})
+            << "results page " << step + 1;
+        QTest::keyClick(d.window.resultsView(), Qt::Key_PageDown, Qt::ControlModifier);
+    }
 }
