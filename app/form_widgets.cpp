@@ -19,7 +19,6 @@
 #include <QToolButton>
 #include <QValidator>
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -181,6 +180,7 @@ QWidget* FormWidgets::Find(const std::string& name) const {
 
 void FormWidgets::Refresh(const FormModel& form) {
     m_refreshing = true;
+    m_form = &form;
     for (const auto& [name, widget] : m_widgets) {
         if (!form.has(name)) {
             continue;
@@ -262,24 +262,17 @@ void FormWidgets::Refresh(const FormModel& form) {
 }
 
 bool FormWidgets::ChooseNeighbour(const std::string& button, int step) {
-    const std::size_t open = button.find('(');
-    if (open == std::string::npos || !m_events.click) {
+    if (m_form == nullptr || !m_events.click) {
         return false;
     }
-    const std::string group = button.substr(0, open);
-    const int index = std::atoi(button.c_str() + open + 1);
-    for (int next = index + step; next >= 0; next += step) {
-        QWidget* widget = Find(group + "(" + std::to_string(next) + ")");
-        if (widget == nullptr) {
-            return false;
-        }
-        if (widget->isEnabled() && widget->isVisible()) {
-            m_events.click(group + "(" + std::to_string(next) + ")");
-            widget->setFocus(Qt::OtherFocusReason);
-            return true;
-        }
+    const std::string next = NeighbourOption(*m_form, button, step);
+    QWidget* widget = Find(next);
+    if (widget == nullptr) {
+        return false;
     }
-    return false;
+    m_events.click(next);
+    widget->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void FormWidgets::OrderTabs(const FormModel& form) {

@@ -46,9 +46,11 @@ class FormWidgets : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    // Chooses the enabled button `step` places on from `button` ("optTendType(2)") in its group;
+    // Chooses the button of the group that the model gives for an arrow key from `button`;
     // false when there is none.
     bool ChooseNeighbour(const std::string& button, int step);
+
+    const FormModel* m_form = nullptr; // the model last drawn
 
     ControlEvents m_events;
     std::map<std::string, QWidget*> m_widgets;

@@ -71,3 +71,8 @@ bool IsShown(const FormModel& form, std::string_view name);
 
 // Selects the whole text of a text box, as one request to the view (see `selectionRequests`).
 void SelectWholeText(FormModel& form, std::string_view box);
+
+// The button of the option group of `button` ("optTendType(2)") that the arrow keys choose from
+// it: the next (`step` 1) or previous (-1) one that is enabled and shown, past those that are
+// not. Empty at either end of the group, which does not wrap, and for a name without an index.
+std::string NeighbourOption(const FormModel& form, std::string_view button, int step);

@@ -367,3 +367,22 @@ TEST(InputScreen, PageKeysStepThroughThePagesAndGoRound) {
     StepPage(f.screen, f.context, 1);
     EXPECT_EQ(f.screen.CurrentInputTab, 1);
 }
+
+TEST(InputScreen, ArrowKeysChooseTheNextButtonOfAGroupThatCanBeChosen) {
+    InputFixture f;
+    const FormModel& form = f.screen.form;
+    EXPECT_EQ(NeighbourOption(form, "optTendType(2)", 1), ""); // on a page not in front
+    SelectPage(f.screen, f.context, 2);
+    EXPECT_EQ(NeighbourOption(form, "optTendType(2)", 1), "optTendType(3)");
+    EXPECT_EQ(NeighbourOption(form, "optTendType(2)", -1), "optTendType(1)");
+    EXPECT_EQ(NeighbourOption(form, "optTendType(3)", 1), ""); // no wrap at the ends
+    EXPECT_EQ(NeighbourOption(form, "optTendType(0)", -1), "");
+    // A disabled button is passed over.
+    SelectPage(f.screen, f.context, 3);
+    f["optSlabRefType(1)"].enabled = false;
+    EXPECT_EQ(NeighbourOption(form, "optSlabRefType(0)", 1), "optSlabRefType(2)");
+    EXPECT_EQ(NeighbourOption(form, "optSlabRefType(2)", -1), "optSlabRefType(0)");
+    f["optSlabRefType(0)"].enabled = false;
+    EXPECT_EQ(NeighbourOption(form, "optSlabRefType(2)", -1), "");
+    EXPECT_EQ(NeighbourOption(form, "cbFlatSlab", 1), "");
+}
