@@ -121,12 +121,16 @@ golden: build
 bench: build
 	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
-# Pictures of the desktop program's windows for each example, drawn without a display.
+# Pictures of the desktop program's windows for each example, drawn without a display, and a
+# report page with header texts of the longest length.
 screenshots: build
 	@for project in $(EXAMPLES); do \
 	  name=$$(basename "$$project" .kvt); \
 	  QT_QPA_PLATFORM=offscreen build/bin/korvath3-screenshots "build/screenshots/$$name" "$$project" \
 	    2>/dev/null || exit $$?; \
+	  pdftoppm -png -r 110 -singlefile "build/screenshots/$$name/report-long-header.pdf" \
+	    "build/screenshots/$$name/report-long-header" || exit $$?; \
+	  echo "build/screenshots/$$name/report-long-header.png"; \
 	done
 
 install: build

@@ -1,6 +1,7 @@
 #include "app/form_widgets.h"
 
 #include "input/input_events.h"
+#include "input/number_entry.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,14 +17,33 @@
 #include <QRadioButton>
 #include <QStringList>
 #include <QToolButton>
+#include <QValidator>
 #include <algorithm>
 #include <vector>
 
 namespace {
 
+constexpr int TextBoxCharacters = 40;
+constexpr int TextBoxPadding = 12; // the frame and margins of a line edit
+
 bool Starts(const std::string& name, const char* prefix) {
     return name.rfind(prefix, 0) == 0;
 }
+
+// Refuses an edit (a key or a paste) that would leave a number box holding what is no number,
+// by the model's rule for that box. Text set by the program is not checked.
+class NumberBoxValidator : public QValidator {
+  public:
+    NumberBoxValidator(std::string box, QObject* parent)
+        : QValidator(parent), m_box(std::move(box)) {}
+
+    State validate(QString& text, int&) const override {
+        return AcceptsNumberText(m_box, text.toStdString()) ? Acceptable : Invalid;
+    }
+
+  private:
+    std::string m_box;
+};
 
 QToolButton* ArrowButton(Qt::ArrowType arrow, QWidget* parent) {
     auto* button = new QToolButton(parent);
@@ -64,8 +84,13 @@ QWidget* FormWidgets::Make(const Control& control, QWidget* parent) {
         if (control.maxLength > 0) {
             edit->setMaxLength(control.maxLength);
         }
-        if (!IsTextField(name)) {
+        if (IsTextField(name)) {
+            // A name, an engineer or a firm shows 40 characters without scrolling.
+            edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * TextBoxCharacters +
+                                  TextBoxPadding);
+        } else {
             edit->setMaximumWidth(150); // a number: as wide as its digits need
+            edit->setValidator(new NumberBoxValidator(name, edit));
         }
         connect(edit, &QLineEdit::textEdited, this, [this, name](const QString& text) {
             if (!m_refreshing && m_events.change) {
@@ -155,6 +180,7 @@ QWidget* FormWidgets::Find(const std::string& name) const {
 
 void FormWidgets::Refresh(const FormModel& form) {
     m_refreshing = true;
+    m_form = &form;
     for (const auto& [name, widget] : m_widgets) {
         if (!form.has(name)) {
             continue;
@@ -194,6 +220,9 @@ void FormWidgets::Refresh(const FormModel& form) {
             }
         } else if (auto* button = qobject_cast<QRadioButton*>(widget)) {
             button->setChecked(control.checked);
+            // Of an option group only the chosen button is a tab stop, whichever it is; the
+            // others take a click or an arrow key.
+            button->setFocusPolicy(control.checked ? Qt::StrongFocus : Qt::ClickFocus);
         } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
             if (!control.caption.empty()) {
                 group->setTitle(CaptionText(control.caption));
@@ -213,18 +242,37 @@ void FormWidgets::Refresh(const FormModel& form) {
             }
         }
     }
-    if (QWidget* focus = Find(form.focus)) {
+    QWidget* focus = Find(form.focus);
+    if (focus != nullptr) {
         if (!focus->hasFocus() && focus->isVisible() && focus->isEnabled()) {
             focus->setFocus(Qt::OtherFocusReason);
         }
-        if (auto* edit = qobject_cast<QLineEdit*>(focus)) {
+        // The model's selection is made once per request: the keys typed next must edit the
+        // text, not replace it again.
+        auto* edit = qobject_cast<QLineEdit*>(focus);
+        if (edit != nullptr && form.selectionRequests != m_selectionRequests) {
             const Control& control = form[form.focus];
             if (control.selLength > 0) {
                 edit->setSelection(control.selStart, control.selLength);
             }
+            m_selectionRequests = form.selectionRequests;
         }
     }
     m_refreshing = false;
+}
+
+bool FormWidgets::ChooseNeighbour(const std::string& button, int step) {
+    if (m_form == nullptr || !m_events.click) {
+        return false;
+    }
+    const std::string next = NeighbourOption(*m_form, button, step);
+    QWidget* widget = Find(next);
+    if (widget == nullptr) {
+        return false;
+    }
+    m_events.click(next);
+    widget->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void FormWidgets::OrderTabs(const FormModel& form) {
@@ -249,6 +297,17 @@ bool FormWidgets::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress: {
         auto* key = static_cast<QKeyEvent*>(event);
+        if (qobject_cast<QRadioButton*>(watched) != nullptr) {
+            // The arrows choose the next or the previous button of the group, the only way
+            // the keyboard reaches the buttons that are not tab stops.
+            const int step = key->key() == Qt::Key_Down || key->key() == Qt::Key_Right ? 1
+                             : key->key() == Qt::Key_Up || key->key() == Qt::Key_Left  ? -1
+                                                                                       : 0;
+            if (step != 0 && ChooseNeighbour(name, step)) {
+                return true;
+            }
+            break;
+        }
         if (!qobject_cast<QLineEdit*>(watched) || !m_events.key) {
             break;
         }

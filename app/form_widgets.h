@@ -46,9 +46,16 @@ class FormWidgets : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // Chooses the button of the group that the model gives for an arrow key from `button`;
+    // false when there is none.
+    bool ChooseNeighbour(const std::string& button, int step);
+
+    const FormModel* m_form = nullptr; // the model last drawn
+
     ControlEvents m_events;
     std::map<std::string, QWidget*> m_widgets;
     bool m_refreshing = false;
+    int m_selectionRequests = 0; // the model's selection requests already carried out
 };
 
 // A label's caption as Qt shows it: "&&" is one ampersand, as it is for the model.

@@ -2,12 +2,14 @@
 
 #include "app/input_layout.h"
 #include "app/styled_text_html.h"
+#include "app/visible_focus.h"
 #include "input/input_events.h"
 #include "input/input_form.h"
 #include "input/tab_files.h"
 
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStyle>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -76,6 +78,12 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
     m_save->setText("Save");
     m_save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
     m_save->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    // The page file buttons have no menu item: they stay tab stops, with a frame that shows
+    // when they have the focus.
+    for (QToolButton* button : {m_open, m_save}) {
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setStyleSheet(VisibleFocusStyle("QToolButton"));
+    }
     toolbar->addWidget(m_open);
     toolbar->addWidget(m_save);
     connect(m_open, &QToolButton::clicked, this, [this] {
@@ -91,10 +99,13 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
 
     m_tabs = new QTabWidget(this);
     m_tabs->setObjectName("tabInput");
+    // All seven captions stand in full; the panel beside the pages gives way.
+    m_tabs->setUsesScrollButtons(false);
     const FormModel& form = m_program.input.form;
     const FormModel noCaptions;
     for (int page = 1; page <= InputPageCount; ++page) {
         auto* scroll = new QScrollArea(m_tabs);
+        scroll->setFocusPolicy(Qt::NoFocus); // the page's fields take the focus, not the page
         scroll->setWidgetResizable(true);
         scroll->setFrameShape(QFrame::NoFrame);
         auto* host = new QWidget(scroll);
@@ -116,10 +127,22 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
         After();
     });
     m_widgets->OrderTabs(form);
+    for (const auto& [keys, step] :
+         {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | keys), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, step = step] {
+            InputContext context = Context();
+            StepPage(m_program.input, context, step);
+            After();
+        });
+    }
 
     m_info = new QTextBrowser(this);
     m_info->setObjectName("rtbMoreInfo");
-    m_info->setMinimumWidth(300);
+    m_info->setMinimumWidth(180);
+    // The panel explains; it is read, not typed into, and stands outside the tab sequence.
+    m_info->setFocusPolicy(Qt::ClickFocus);
     m_info->setMaximumWidth(380);
 
     auto* pages = new QVBoxLayout;

@@ -4,6 +4,7 @@
 #include "app/options_view.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
+#include "app/toolbar_icons.h"
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
@@ -67,6 +68,9 @@ QToolButton* MainWindow::ToolbarButton(const std::string& key) const {
 }
 
 void MainWindow::BuildMenus() {
+    // Every item has an access key of its own within its menu. The classic program gave Open and
+    // Options the same "O" and left the line load item and the related documents without one;
+    // here Options takes "t", and those two their first letters.
     QMenu* file = menuBar()->addMenu("&File");
     file->setObjectName("mnuFile");
     QMenu* newMenu = file->addMenu("&New");
@@ -81,7 +85,7 @@ void MainWindow::BuildMenus() {
                 NewProjectCommand(m_program, m_services, ProjectKind::Compressible);
                 Refresh();
             });
-    connect(AddAction(newMenu, "mnuLine", "Line Load Analysis"), &QAction::triggered, this,
+    connect(AddAction(newMenu, "mnuLine", "&Line Load Analysis"), &QAction::triggered, this,
             [this] { LineLoadMenuItem(m_program); });
     QAction* open = AddAction(file, "mnuOpen", "&Open Project ...");
     open->setShortcut(QKeySequence::Open);
@@ -102,7 +106,7 @@ void MainWindow::BuildMenus() {
         Refresh();
     });
     file->addSeparator();
-    connect(AddAction(file, "mnuOptions", "&Options ..."), &QAction::triggered, this, [this] {
+    connect(AddAction(file, "mnuOptions", "Op&tions ..."), &QAction::triggered, this, [this] {
         m_options->Open(0);
         Refresh();
     });
@@ -147,11 +151,12 @@ void MainWindow::BuildMenus() {
                                          "Korvath 3.0 is supported by Brellin Works.\n"
                                          "Describe the project and attach its .kvt file.");
             });
-    connect(AddAction(help, "mnuDocs", "Related Documents ..."), &QAction::triggered, this, [this] {
-        QMessageBox::information(this, "Related Documents",
-                                 "Design of Post-Tensioned Slabs-On-Ground, 3rd Edition,\n"
-                                 "Post-Tensioning Institute.");
-    });
+    connect(AddAction(help, "mnuDocs", "&Related Documents ..."), &QAction::triggered, this,
+            [this] {
+                QMessageBox::information(this, "Related Documents",
+                                         "Design of Post-Tensioned Slabs-On-Ground, 3rd Edition,\n"
+                                         "Post-Tensioning Institute.");
+            });
     connect(AddAction(help, "mnuAbout", "&About Korvath 3.0 ..."), &QAction::triggered, this,
             [this] { ShowAbout(); });
 }
@@ -166,8 +171,11 @@ void MainWindow::BuildToolbar() {
         auto* tool = new QToolButton(toolbar);
         tool->setObjectName(QString::fromStdString("tlbKorvath(" + std::to_string(position) + ")"));
         tool->setText(QString::fromStdString(key));
-        tool->setIcon(style()->standardIcon(icon));
+        tool->setIcon(ToolbarIcon(style()->standardIcon(icon)));
         tool->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        // Every button's command is a menu item with its access key; the toolbar is for the
+        // mouse and stays out of the tab sequence.
+        tool->setFocusPolicy(Qt::NoFocus);
         toolbar->addWidget(tool);
         m_buttons[key] = tool;
         return tool;

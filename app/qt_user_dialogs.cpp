@@ -1,7 +1,9 @@
 #include "app/qt_user_dialogs.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace {
 
@@ -38,7 +40,35 @@ std::string Trimmed(std::string text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+// The file dialogs open large enough to show each file's name, size, kind and date in full
+// columns, which tell a project from its backup at a glance.
+constexpr int FileDialogWidth = 900;
+constexpr int FileDialogHeight = 560;
+
+std::optional<std::string> RunFileDialog(QFileDialog& dialog) {
+    PrepareFileDialog(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return dialog.selectedFiles().front().toStdString();
+}
+
 } // namespace
+
+void PrepareFileDialog(QFileDialog& dialog) {
+    dialog.setViewMode(QFileDialog::Detail);
+    dialog.resize(FileDialogWidth, FileDialogHeight);
+    // Qt's own dialog (the platform's may stand in for it) gives the size, kind and date columns
+    // the width of what they hold; the name takes the rest.
+    if (auto* files = dialog.findChild<QTreeView*>("treeView")) {
+        QHeaderView* header = files->header();
+        header->setStretchLastSection(false);
+        header->setSectionResizeMode(0, QHeaderView::Stretch);
+        for (int column = 1; column < header->count(); ++column) {
+            header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+        }
+    }
+}
 
 std::string QtNameFilters(const std::string& filter) {
     std::string filters;
@@ -81,13 +111,10 @@ Answer QtUserDialogs::AskYesNoCancel(const MessageRequest& question) {
 }
 
 std::optional<std::string> QtUserDialogs::ShowOpenDialog(const FileDialogRequest& request) {
-    const QString path = QFileDialog::getOpenFileName(
-        m_parent, QString::fromStdString(request.title), StartPath(request),
-        QString::fromStdString(QtNameFilters(request.filter)));
-    if (path.isEmpty()) {
-        return std::nullopt;
-    }
-    return path.toStdString();
+    QFileDialog dialog(m_parent, QString::fromStdString(request.title), StartPath(request),
+                       QString::fromStdString(QtNameFilters(request.filter)));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return RunFileDialog(dialog);
 }
 
 std::optional<std::string> QtUserDialogs::ShowSaveDialog(const FileDialogRequest& request) {
@@ -95,8 +122,5 @@ std::optional<std::string> QtUserDialogs::ShowSaveDialog(const FileDialogRequest
                        QString::fromStdString(QtNameFilters(request.filter)));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QString::fromStdString(request.defaultExtension));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return dialog.selectedFiles().front().toStdString();
+    return RunFileDialog(dialog);
 }

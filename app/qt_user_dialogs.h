@@ -2,6 +2,7 @@
 
 #include "shell/user_dialogs.h"
 
+class QFileDialog;
 class QWidget;
 
 // The program's messages, questions and file dialogs as Qt boxes over the main window.
@@ -24,3 +25,7 @@ class QtUserDialogs : public UserDialogs {
 // A filter as the program writes it ("Projects (*.kvt)|*.kvt", pairs split by "|") as Qt's
 // name filters ("Projects (*.kvt)", one a line).
 std::string QtNameFilters(const std::string& filter);
+
+// A file dialog as the program opens it: large, with the detail columns, the size, kind and date
+// as wide as what they hold.
+void PrepareFileDialog(QFileDialog& dialog);

@@ -1,7 +1,9 @@
 #include "app/results_view.h"
 
 #include "app/styled_text_html.h"
+#include "app/visible_focus.h"
 #include "output/compliance_pages.h"
+#include "output/results_paging.h"
 #include "output/results_tabs.h"
 
 #include <QCheckBox>
@@ -10,6 +12,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -42,6 +45,9 @@ ResultsView::ResultsView(ResultsScreen& screen, const DesignRecord& record,
     m_ribbed->setProperty("frame", "fraMain(1)");
     m_uniform = new QTabWidget(this);
     m_uniform->setObjectName("tabUniform");
+    for (QTabWidget* strip : {m_main, m_ribbed, m_uniform}) {
+        strip->setUsesScrollButtons(false);
+    }
     for (const ResultPage& page : m_screen.pages) {
         m_pages[page.frame] = MakePage(page);
         m_pages[page.frame]->hide(); // shown only in a tab
@@ -66,6 +72,15 @@ ResultsView::ResultsView(ResultsScreen& screen, const DesignRecord& record,
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_main);
+    for (const auto& [keys, step] :
+         {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | keys), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, step = step] {
+            StepResultsPage(m_screen, m_record, step);
+            Refresh();
+        });
+    }
 }
 
 std::vector<QWidget*> ResultsView::Widgets(const std::string& name) const {
@@ -75,6 +90,7 @@ std::vector<QWidget*> ResultsView::Widgets(const std::string& name) const {
 
 QWidget* ResultsView::MakePage(const ResultPage& page) {
     auto* scroll = new QScrollArea(this);
+    scroll->setFocusPolicy(Qt::NoFocus); // the page's boxes and lists take the focus
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     auto* host = new QWidget(scroll);
@@ -130,6 +146,7 @@ QWidget* ResultsView::MakePage(const ResultPage& page) {
         case RowKind::List: {
             auto* list = new QTextBrowser(host);
             list->setMinimumHeight(360);
+            list->setStyleSheet(VisibleFocusStyle("QTextBrowser"));
             // The list runs across the whole page, the stretching column included.
             grid->addWidget(named(list, row.caption), r, 0, 1, UnitColumn + 2);
             cells.push_back(list);
@@ -181,7 +198,9 @@ void ResultsView::FillTabs(QTabWidget* tabs, const TabStrip& strip,
     }
     for (int tab = 1; tab <= strip.count(); ++tab) {
         QWidget* page = m_pages.at(ArrayName(array, frameOf(tab)));
-        tabs->addTab(page, Text(strip.captions[static_cast<std::size_t>(tab - 1)]));
+        // The classic captions are padded with blanks to widen their tabs; without them every
+        // tab of the strip stands in the window's width.
+        tabs->addTab(page, Text(strip.captions[static_cast<std::size_t>(tab - 1)]).trimmed());
     }
     tabs->setCurrentIndex(strip.selected - 1);
 }

@@ -10,11 +10,13 @@
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/print_commands.h"
 #include "lifecycle/project_lifecycle.h"
+#include "reports/qt/pdf_report.h"
 #include "shell/load_settings.h"
 #include "shell/memory_settings_store.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFontDatabase>
 #include <QTabWidget>
 #include <QTimer>
 #include <iostream>
@@ -92,13 +94,38 @@ int main(int argc, char** argv) {
     }
     if (program.project.printEnabled) {
         PrintView* print = window.printView();
-        PrintCommand(program, {"Arial", "Courier New", "Times New Roman"}, "PDF file",
-                     PrintPath::Menu);
+        // The font families as the system lists them, which may know Arial only by its twin.
+        std::vector<std::string> families;
+        for (const QString& family : QFontDatabase::families()) {
+            families.push_back(family.toStdString());
+        }
+        PrintCommand(program, families, "PDF file", PrintPath::Menu);
         print->Refresh();
         print->show();
         QApplication::processEvents();
         Save(print, folder + "/print-dialog.png");
         print->hide();
+
+        // The design summary with header texts of the longest length the input screen takes,
+        // as a PDF; make screenshots turns its page into a picture.
+        DesignRecord longTexts = program.record;
+        longTexts.ProjName = "Meadowbrook Residence, Lot 14, Phase 2, Building C, Unit 12-A";
+        longTexts.ProjDate = "November 23, 2026 (revised December 14, 2026 for the permit)";
+        longTexts.ProjNum = "2026-117-A-REV-4-SUPPLEMENTAL-FOUNDATION-DESIGN-PACKAGE";
+        longTexts.ProjEng = "Jonathan Alexander Alvarez, PE";
+        longTexts.ProjGeoRep = "Hill Country Geotechnical, Inc";
+        longTexts.ProjGeoNum = "G-26-0419-SUPPLEMENT-2-REV-B-1";
+        longTexts.ProjGeoDate = "September 30, 2026";
+        PrintJob job;
+        job.pages =
+            RangePages(PrintRange::Selected, longTexts, {},
+                       {true, false, false, false, false, false, false, false, false, false});
+        job.totalSheets = 1;
+        job.fontName = "Arial";
+        job.timeOfDay = "3:05:09 PM";
+        WritePdfReport((folder + "/report-long-header.pdf").toStdString(), job, longTexts,
+                       program.results, {.projectPath = argv[2]});
+        std::cout << (folder + "/report-long-header.pdf").toStdString() << '\n';
     }
     return 0;
 }

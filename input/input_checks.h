@@ -1,6 +1,7 @@
 #pragma once
 
 #include "input/input_screen.h"
+#include "input/number_entry.h"
 
 // The input checks as the screens run them: the first fault found is shown in a box titled
 // "Input Error!" with an exclamation icon, and the user is taken to its field.
@@ -27,3 +28,7 @@ int CheckOptionsBlankFields(FormModel& options, const DesignRecord& defaults, Us
 // The value check of the design record before an analysis. True when the record may be
 // analysed; otherwise the first fault has been shown.
 bool CheckRecordValues(InputScreen& screen, InputContext& context);
+
+// A box whose text could not be read into the record: a box titled "Input Error!" names the
+// field's caption and quotes its text, and the user is taken to the field.
+void ShowUnreadableField(InputScreen& screen, InputContext& context, const UnreadableField& error);

@@ -91,6 +91,10 @@ void SetTextByUser(InputScreen& screen, InputContext& context, std::string_view 
         return;
     }
     control.text = std::move(text);
+    // What the user types goes where the caret is: a selection made when the field got the
+    // focus is used up by the first key.
+    control.selStart = static_cast<int>(control.text.size());
+    control.selLength = 0;
     if (!screen.visible) {
         return;
     }
@@ -214,6 +218,12 @@ void SelectPage(InputScreen& screen, InputContext& context, int page) {
     form[ArrayName("tlbInput", 2)].toolTip = tips.save;
 }
 
+void StepPage(InputScreen& screen, InputContext& context, int step) {
+    const int next =
+        ((screen.CurrentInputTab - 1 + step) % InputPageCount + InputPageCount) % InputPageCount;
+    SelectPage(screen, context, next + 1);
+}
+
 double SpinStep(std::string_view box) {
     if (!box.starts_with("txt")) {
         return 0.0;
@@ -292,8 +302,7 @@ void FocusIn(InputScreen& screen, std::string_view control, FocusReason reason) 
     Control& box = form[control];
     if (reason == FocusReason::TabKey || form.focusFromError) {
         form.focusFromError = false;
-        box.selStart = 0;
-        box.selLength = static_cast<int>(box.text.size());
+        SelectWholeText(form, control);
     } else {
         box.selLength = 0;
     }

@@ -23,6 +23,10 @@ void ChangeText(InputScreen& screen, InputContext& context, std::string_view box
 // The user selects page 1 to 7 of the tab strip.
 void SelectPage(InputScreen& screen, InputContext& context, int page);
 
+// Ctrl+PageDown (`step` 1) and Ctrl+PageUp (-1): the next or the previous page, as if its tab
+// were chosen, going round from the last page to the first and back.
+void StepPage(InputScreen& screen, InputContext& context, int step);
+
 // A click on the up or down arrow of a spin `ud...`: the field beside it gets the focus, and its
 // text steps from the number it begins with (0 for none). Down never goes below 0, and a step
 // that would leave less than one step above 0 lands on 0 at once.

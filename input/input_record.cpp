@@ -5,6 +5,7 @@
 #include "engine/checked_math.h"
 #include "engine/tendon_size.h"
 #include "input/enabling_rules.h"
+#include "input/number_entry.h"
 #include "shell/load_settings.h"
 #include "shell/record_controls.h"
 
@@ -15,7 +16,12 @@ namespace {
 // Copies one field from its text box or check box. The blank check has run before, so an
 // empty box is a type mismatch like any other text that is not a number.
 void ReadField(const FormModel& form, DesignRecord& record, std::string_view name) {
-    CopyControlToField(form, record, name, BlankText::TypeMismatch);
+    try {
+        CopyControlToField(form, record, name, BlankText::TypeMismatch);
+    } catch (const RunTimeError& error) {
+        // Which box failed, so that the message can name it and the user be taken there.
+        throw UnreadableField(error.number(), ControlForField(name).control);
+    }
 }
 
 void ReadFields(const FormModel& form, DesignRecord& record,
@@ -49,7 +55,7 @@ void ReadMaterialBlock(const FormModel& form, DesignRecord& r) {
     try {
         ApplyTendonSize(r);
     } catch (const ArithmeticFault&) {
-        throw RunTimeError(5); // a negative area has no diameter
+        throw UnreadableField(5, "txtTendArea"); // a negative area has no diameter
     }
 }
 

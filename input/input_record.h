@@ -22,7 +22,8 @@
 //
 // A number that cannot be read throws RunTimeError 13 (type mismatch), a count outside 16 bits
 // RunTimeError 6 (overflow), and a negative custom tendon area RunTimeError 5 (it has no
-// diameter). The record may then hold the fields copied before the failure.
+// diameter), each as an UnreadableField that names the box. The record may then hold the fields
+// copied before the failure.
 void ReadInputRecord(const FormModel& form, DesignRecord& record, int selector);
 
 // Shows the record on the screen: selector 0 to 6 one page (3 the beams), 10 all. Numbers show

@@ -97,6 +97,8 @@ void SaveTabFile(InputScreen& screen, InputContext& context, int tab) {
         const std::string folder = std::filesystem::path(*chosen).parent_path().string();
         screen.dialogFolder = folder;
         context.project.dialogFolder = folder;
+    } catch (const UnreadableField& error) {
+        ShowUnreadableField(screen, context, error);
     } catch (const RunTimeError& error) {
         ShowFailure(context.dialogs, "Error saving file - ", error);
     }

@@ -28,6 +28,9 @@ AnalysisResult AnalysisReset(Program& program, ShellServices& services) {
     }
     try {
         ReadInputRecord(program.input.form, program.record, AllSections);
+    } catch (const UnreadableField& error) {
+        ShowUnreadableField(program.input, context, error);
+        return AnalysisResult::Stopped;
     } catch (const RunTimeError& error) {
         services.dialogs.ShowMessage(
             {MessageIcon::Exclamation, InputErrorTitle, error.description()});

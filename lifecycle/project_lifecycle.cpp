@@ -70,6 +70,15 @@ enum class PathTaken { BeforeReading, AfterReading };
 void TakePath(ProjectState& project, const std::string& path) {
     project.ProjFilePath = path;
     project.ProjFileTitle = TitleOf(path);
+    project.pathUnread = false;
+}
+
+// Whether a save needs a name from the save dialog: the project has never been saved, or its
+// path names a file that could not be read. The classic program wrote the open project over
+// such a file at the next Save; that file may be a damaged project the engineer still wants to
+// recover, so it is written over only when the user picks its name in the Save As dialog.
+bool NeedsSavePath(const ProjectState& project) {
+    return project.ProjFilePath.empty() || project.pathUnread;
 }
 
 // Reads the project at `path` into the record and shows it. The record changes only when the
@@ -99,6 +108,7 @@ void OpenPath(Program& program, ShellServices& services, const std::string& path
         program.input.visible = true;
     } catch (const RunTimeError& error) {
         ShowFailure(services.dialogs, "Error opening file - ", error);
+        project.pathUnread = project.pathUnread || taken == PathTaken::BeforeReading;
         program.input.visible = false;
         project.caption = std::string(ProductCaption) + " - ";
     }
@@ -116,6 +126,11 @@ bool ReadScreenForSaving(Program& program, ShellServices& services, const char* 
     }
     try {
         ReadInputRecord(program.input.form, program.record, AllSections);
+    } catch (const UnreadableField& error) {
+        ShowUnreadableField(program.input, context, error);
+        program.output.visible = false;
+        program.input.visible = true;
+        return false;
     } catch (const RunTimeError& error) {
         ShowFailure(services.dialogs, errorTitle, error);
         return false;
@@ -145,8 +160,7 @@ bool SaveToNewPath(Program& program, ShellServices& services, const std::string&
         return false;
     }
     ProjectState& project = program.project;
-    project.ProjFilePath = path;
-    project.ProjFileTitle = TitleOf(path);
+    TakePath(project, path);
     project.dialogFolder = FolderOf(path);
     program.input.dialogFolder = FolderOf(path);
     project.saveEnabled = true;
@@ -217,7 +231,7 @@ Answer SaveCurrentFile(Program& program, ShellServices& services, const std::str
         return Answer::Cancel;
     }
     ProjectState& project = program.project;
-    if (project.ProjFilePath.empty()) {
+    if (NeedsSavePath(project)) {
         const std::optional<std::string> path = AskSavePath(program, services);
         if (!path || !SaveToNewPath(program, services, *path, errorTitle)) {
             return Answer::Cancel;
@@ -243,6 +257,7 @@ void NewProjectReset(Program& program, ShellServices& services, ProjectKind kind
     program.output.visible = false;
     project.ProjFilePath.clear();
     project.ProjFileTitle.clear();
+    project.pathUnread = false;
     project.caption = MainCaption(project);
     EnableProjectCommands(project, false);
 
@@ -323,7 +338,7 @@ void OpenRecentCommand(Program& program, ShellServices& services, int index) {
 
 void SaveCommand(Program& program, ShellServices& services) {
     ProjectState& project = program.project;
-    if (project.ProjFilePath.empty()) {
+    if (NeedsSavePath(project)) {
         SaveAsCommand(program, services);
         return;
     }

@@ -50,18 +50,18 @@ void OneValue(PageWriter& w, const std::string& label, const std::string& value,
     w.Step();
 }
 
-// "Concrete Strength, f'c :" with its prime raised and its subscript lowered, and the tendon
-// strength's subscript "pu".
+// "Concrete Strength, f'c :" with its subscript after the prime, and the tendon strength's
+// subscript "pu".
 void MaterialLines(PageWriter& w, const DesignRecord& r) {
     const double column2 = w.page().column2;
     double x = w.TextAt(column2, 0, "Concrete Strength,   f");
-    w.TextAt(x, -30, "'");
-    x = w.TextAt(x, 60, "c");
+    x = w.TextAt(x, 0, "'");
+    x = w.Lowered(x, "c");
     w.TextAt(x, 0, " :");
     w.Value(ValueEdge, F(r.Fpc, "###,##0"), "  PSI");
     w.Step();
     x = w.TextAt(column2, 0, "Tendon Strength,   F");
-    x = w.TextAt(x, 60, "pu");
+    x = w.Lowered(x, "pu");
     w.TextAt(x, 0, " :");
     w.Value(ValueEdge, F(r.Fpu, "#,##0"), "  KSI");
     w.Step();
@@ -73,7 +73,7 @@ void MaterialLines(PageWriter& w, const DesignRecord& r) {
         w.Label("Custom Tendon Area :");
         const std::string area = F(r.TendArea, "#0.000");
         w.Value(ValueEdge, area, "  Inches");
-        w.TextAt(ValueEdge + w.surface().TextWidth("  Inches"), -30, "2");
+        w.Raised(ValueEdge + w.surface().TextWidth("  Inches"), "2");
         w.Step();
     }
 }
@@ -192,7 +192,7 @@ void PrintUDS(PageContext& page, const LineHeights& heights, bool lastPage) {
     const auto superscriptRow = [&w](const std::string& before, const std::string& power,
                                      double shortValue, double longValue, const char* pattern) {
         double x = w.TextAt(w.page().column2, 0, before);
-        x = w.TextAt(x, -30, power);
+        x = w.Raised(x, power);
         w.TextAt(x, 0, ") :");
         w.Value(VariablesShortEdge, F(shortValue, pattern));
         w.Value(SecondTypeEdge, F(longValue, pattern));

@@ -61,7 +61,7 @@ void RightAlignedHeads(PageWriter& w, const double* edges, const std::vector<std
 // A label whose letter carries a small qualifier below it: "E" "c", "F" "pu", "e" "m".
 void QualifiedLabel(PageWriter& w, const std::string& before, const std::string& qualifier) {
     double x = w.TextAt(w.page().column2, 0, before);
-    x = w.TextAt(x, 60, qualifier);
+    x = w.Lowered(x, qualifier);
     w.TextAt(x, 0, " :");
 }
 
@@ -85,8 +85,8 @@ void MaterialBlock(PageWriter& w, const DesignRecord& r) {
         OneValue(w, "Material Label :", r.MatLabel);
     }
     double x = w.TextAt(w.page().column2, 0, "Concrete Strength,   f");
-    w.TextAt(x, -30, "'");
-    x = w.TextAt(x, 60, "c");
+    x = w.TextAt(x, 0, "'");
+    x = w.Lowered(x, "c");
     w.TextAt(x, 0, " :");
     w.Value(ValueEdge, F(r.Fpc, "###,##0.0"), "  PSI");
     w.Step();
@@ -103,7 +103,7 @@ void MaterialBlock(PageWriter& w, const DesignRecord& r) {
     } else if (r.TendType == 3) {
         w.Label("Custom Tendon Area :");
         w.Value(ValueEdge, F(r.TendArea, "#0.000"), "  Inches");
-        w.TextAt(ValueEdge + w.surface().TextWidth("  Inches"), -30, "2");
+        w.Raised(ValueEdge + w.surface().TextWidth("  Inches"), "2");
         w.Step();
     }
     w.Step();
@@ -204,9 +204,9 @@ void SoilBlock(PageWriter& w, const DesignRecord& r) {
                     "Edition PTI Manual.");
             w.Step();
             double x = w.TextAt(w.page().column2, 0, "e");
-            x = w.TextAt(x, 60, "m");
+            x = w.Lowered(x, "m");
             x = w.TextAt(x, 0, " assumed to be 5 feet and y");
-            x = w.TextAt(x, 60, "m");
+            x = w.Lowered(x, "m");
             w.TextAt(x, 0, " assumed to be Expected Settlement");
             w.Step();
         }

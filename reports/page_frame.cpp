@@ -1,5 +1,7 @@
 #include "reports/page_frame.h"
 
+#include "reports/header_fit.h"
+
 #include <cmath>
 
 namespace {
@@ -85,23 +87,26 @@ void PrintHeader(PageContext& page, double lineHeight) {
     const double ruleY = firmY + lineHeight + 200;
     DrawRule(surface, ruleY);
 
+    // The project's texts keep to their columns: the left ones end a little before the captions
+    // of the right column, the title and the right ones at the right text edge.
     double y = ruleY + lineHeight / 2;
     const double column1 = page.column1;
-    surface.DrawText(column1, y, "Project Title :    " + r.ProjName);
+    const double leftLimit = RightColumn - ColumnGap;
+    DrawCaptionedText(surface, column1, y, RightTextEdge, "Project Title :    ", r.ProjName);
     y += lineHeight;
-    surface.DrawText(column1, y, "Project Engineer :  " + r.ProjEng);
-    surface.DrawText(7200, y, "Project Number :    ");
-    surface.DrawText(8750, y, r.ProjNum);
+    DrawCaptionedText(surface, column1, y, leftLimit, "Project Engineer :  ", r.ProjEng);
+    surface.DrawText(RightColumn, y, "Project Number :    ");
+    DrawFittedText(surface, RightValueColumn, y, RightTextEdge, r.ProjNum);
     y += lineHeight;
-    surface.DrawText(7200, y, "Project Date :    ");
-    surface.DrawText(8750, y, r.ProjDate);
+    surface.DrawText(RightColumn, y, "Project Date :    ");
+    DrawFittedText(surface, RightValueColumn, y, RightTextEdge, r.ProjDate);
     y += lineHeight * 2;
-    surface.DrawText(column1, y, "Geotechnical Report :  " + r.ProjGeoRep);
-    surface.DrawText(7200, y, "Report Date :  ");
-    surface.DrawText(8750, y, r.ProjGeoDate);
+    DrawCaptionedText(surface, column1, y, leftLimit, "Geotechnical Report :  ", r.ProjGeoRep);
+    surface.DrawText(RightColumn, y, "Report Date :  ");
+    DrawFittedText(surface, RightValueColumn, y, RightTextEdge, r.ProjGeoDate);
     y += lineHeight;
-    surface.DrawText(7200, y, "Report Number : ");
-    surface.DrawText(8750, y, r.ProjGeoNum);
+    surface.DrawText(RightColumn, y, "Report Number : ");
+    DrawFittedText(surface, RightValueColumn, y, RightTextEdge, r.ProjGeoNum);
 }
 
 void PrintFooter(PageContext& page, double lineHeight) {

@@ -32,6 +32,11 @@ inline constexpr double SheetWidth = 12240;
 inline constexpr double RuleLeft = 940;
 inline constexpr double RuleRight = 9640;
 inline constexpr double RightTextEdge = 10580;
+// The header's right column: its captions and their values; the texts of the left column end
+// a gap before it.
+inline constexpr double RightColumn = 7200;
+inline constexpr double RightValueColumn = 8750;
+inline constexpr double ColumnGap = 120;
 
 // The heights of "Bg" at 10, 12 and 14 point, bold and underlined, in whole twips (a half
 // rounded to even). The 10 point height is the line step of a page.

@@ -54,6 +54,35 @@ double PageWriter::TextAt(double x, double shift, const std::string& text) {
     return x + surface().TextWidth(text);
 }
 
+namespace {
+
+// The lines that carry powers and subscripts are the body's 10 point lines; those small letters
+// are printed at 70% of that.
+constexpr double BodySize = 10;
+constexpr double SmallLetterShare = 0.7;
+
+} // namespace
+
+double PageWriter::Raised(double x, const std::string& text) {
+    DrawingSurface& s = surface();
+    s.SetFontSize(BodySize * SmallLetterShare);
+    s.DrawText(x, m_y, text);
+    const double after = x + s.TextWidth(text);
+    s.SetFontSize(BodySize);
+    return after;
+}
+
+double PageWriter::Lowered(double x, const std::string& text) {
+    DrawingSurface& s = surface();
+    s.SetFontSize(BodySize);
+    const double lineHeight = s.TextHeight(text);
+    s.SetFontSize(BodySize * SmallLetterShare);
+    s.DrawText(x, m_y + lineHeight - s.TextHeight(text), text);
+    const double after = x + s.TextWidth(text);
+    s.SetFontSize(BodySize);
+    return after;
+}
+
 void PageWriter::Step(int lines) {
     m_y += lineHeight() * m_lineStep * lines;
 }

@@ -23,6 +23,11 @@ class PageWriter {
     void Value(double rightEdge, const std::string& value, const std::string& unit = {});
     // A text raised (negative) or lowered by `shift` twips, placed after the text before it.
     double TextAt(double x, double shift, const std::string& text);
+    // A power ("2" of square inches) or a subscript ("c" of f'c, "pu" of Fpu) at 70% of the
+    // line's size, placed at x: the power raised to the top of the line, the subscript lowered
+    // to its bottom, so that neither reaches into the line above or below. Give the x after it.
+    double Raised(double x, const std::string& text);
+    double Lowered(double x, const std::string& text);
     void Step(int lines = 1);
     // A step of a share of the line height (1, a whole line, unless a full sheet must be fitted
     // above its footer).

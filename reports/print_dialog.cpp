@@ -2,6 +2,8 @@
 
 #include "reports/report_pages.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* WarningTitle = "Print Warning";
@@ -119,6 +121,20 @@ void ChooseReportFont(PrintDialog& dialog, int index) {
     fonts.text = fonts.items[static_cast<std::size_t>(index)];
 }
 
+void ShowReportFonts(PrintDialog& dialog, const std::vector<std::string>& fonts) {
+    Control& list = dialog.form["cbbReportFont"];
+    list.items = fonts;
+    // The report's font is found by its name, and "Arial" is printed by its metric twin when the
+    // system lists only the twin: the list always offers the font in use, and shows it chosen.
+    auto found = std::find(list.items.begin(), list.items.end(), list.text);
+    if (found == list.items.end() && !list.text.empty()) {
+        list.items.insert(list.items.begin(), list.text);
+        found = list.items.begin();
+    }
+    list.selectedIndex =
+        found == list.items.end() ? -1 : static_cast<int>(found - list.items.begin());
+}
+
 void ShowPrinterName(PrintDialog& dialog, const std::string& printerName) {
     dialog.form["lblCurrentPrinter"].caption = printerName;
 }
@@ -128,7 +144,7 @@ void OpenPrintDialog(PrintDialog& dialog, const DesignRecord& record,
                      PrintPath path) {
     dialog.openedFrom = path;
     ChoosePrintRange(dialog, record, ChosenRange(dialog));
-    dialog.form["cbbReportFont"].items = fonts;
+    ShowReportFonts(dialog, fonts);
     ShowPrinterName(dialog, printerName);
     dialog.visible = true;
 }

@@ -52,6 +52,11 @@ void ClickPrintControl(PrintDialog& dialog, const DesignRecord& record, const st
 // The user chose item `index` of the report font list; an index outside the list changes nothing.
 void ChooseReportFont(PrintDialog& dialog, int index);
 
+// The fonts the printer offers in the "Report Font :" list, with the font in use among them and
+// chosen: a font the system knows only by its twin ("Arial", printed as Liberation Sans) is
+// put first.
+void ShowReportFonts(PrintDialog& dialog, const std::vector<std::string>& fonts);
+
 // The printer's name under "Current Printer :", at opening and after "Setup ...".
 void ShowPrinterName(PrintDialog& dialog, const std::string& printerName);
 

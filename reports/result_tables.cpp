@@ -78,7 +78,7 @@ void PowerPairRow(PageWriter& w, const std::string& before, const std::string& p
                   const std::string& after, const std::string& shortText,
                   const std::string& longText) {
     double x = w.TextAt(w.page().column2, 0, before);
-    x = w.TextAt(x, -30, power);
+    x = w.Raised(x, power);
     w.TextAt(x, 0, after);
     w.Value(ShortCentre + EdgeOffset, shortText);
     w.Value(LongCentre + EdgeOffset, longText);

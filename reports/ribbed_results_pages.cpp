@@ -25,7 +25,7 @@ constexpr double LabelGap = 200;
 
 void AreaValue(PageWriter& w, double rightEdge, const std::string& area) {
     w.Value(rightEdge, area, "  FT");
-    w.TextAt(rightEdge + w.surface().TextWidth("  FT"), -30, "2");
+    w.Raised(rightEdge + w.surface().TextWidth("  FT"), "2");
 }
 
 void SoilBearingBlock(PageWriter& w, bool compressiblePage) {

@@ -57,3 +57,35 @@ bool IsShown(const FormModel& form, std::string_view name) {
     }
     return true;
 }
+
+void SelectWholeText(FormModel& form, std::string_view box) {
+    Control& control = form[box];
+    control.selStart = 0;
+    control.selLength = static_cast<int>(control.text.size());
+    ++form.selectionRequests;
+}
+
+std::string NeighbourOption(const FormModel& form, std::string_view button, int step) {
+    const std::size_t open = button.find('(');
+    if (open == std::string_view::npos || step == 0) {
+        return {};
+    }
+    const std::string_view group = button.substr(0, open);
+    int index = 0;
+    for (std::size_t i = open + 1; i < button.size() && button[i] != ')'; ++i) {
+        if (button[i] < '0' || button[i] > '9') {
+            return {};
+        }
+        index = index * 10 + (button[i] - '0');
+    }
+    for (int next = index + step; next >= 0; next += step) {
+        const std::string name = ArrayName(group, next);
+        if (!form.has(name)) {
+            return {};
+        }
+        if (form[name].enabled && IsShown(form, name)) {
+            return name;
+        }
+    }
+    return {};
+}

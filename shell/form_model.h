@@ -46,6 +46,10 @@ class FormModel {
     // Set when a validation message sends the focus to a field, so that the field's whole text
     // is selected when it gets the focus; cleared by that focus.
     bool focusFromError = false;
+    // Counts the times the model has selected the whole text of the focus field (a Tab step, the
+    // focus move of a validation message). A view selects the text once for each request, so
+    // that the keys typed next edit the text instead of replacing it again and again.
+    int selectionRequests = 0;
 
   private:
     std::vector<Control> m_controls;
@@ -64,3 +68,11 @@ void SelectOption(FormModel& form, std::string_view group, int count, int index)
 
 // Whether the control is drawn: it and every container it stands in are visible.
 bool IsShown(const FormModel& form, std::string_view name);
+
+// Selects the whole text of a text box, as one request to the view (see `selectionRequests`).
+void SelectWholeText(FormModel& form, std::string_view box);
+
+// The button of the option group of `button` ("optTendType(2)") that the arrow keys choose from
+// it: the next (`step` 1) or previous (-1) one that is enabled and shown, past those that are
+// not. Empty at either end of the group, which does not wrap, and for a name without an index.
+std::string NeighbourOption(const FormModel& form, std::string_view button, int step);

@@ -21,6 +21,10 @@ struct ProjectState {
     bool inputEnabled = false;           // mnuInput and the toolbar's "Input", position 8
     bool analysisEnabled = false;        // mnuAnalysis and the toolbar's "Analysis", position 9
     std::string dialogFolder;            // where the main window's file dialogs open
+    // Set when the path names a file that could not be read (a failed open from the dialog).
+    // Such a file may be a damaged project the engineer still hopes to recover, so Save does not
+    // write over it: it asks for a name as Save As does.
+    bool pathUnread = false;
     // The kind of project the toolbar's "New" button starts, as its tooltip says.
     std::string newToolTip = "New Expansive Soil Project";
 };

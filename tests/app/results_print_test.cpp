@@ -13,7 +13,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBrowser>
@@ -82,9 +84,8 @@ TEST(ResultsWindow, SummaryLinesAndTabCaptionsOfEachExample) {
          "Ribbed Foundation has 3 items out of compliance",
          true},
         {"compressible_edge_down",
-         {QString(13, ' ') + "Design Summary" + QString(13, ' '),
-          QString(13, ' ') + "Design Compliance" + QString(13, ' '),
-          QString(13, ' ') + "PTI Exceptions" + QString(14, ' '), "Center Down Analysis",
+         // The classic captions' padding blanks are not drawn, so that no tab is stretched.
+         {"Design Summary", "Design Compliance", "PTI Exceptions", "Center Down Analysis",
           "Edge Down Analysis", "Soil Bearing / Prestress Summary", "Selected Variables"},
          2,
          "Ribbed Foundation in compliance",
@@ -107,6 +108,26 @@ TEST(ResultsWindow, SummaryLinesAndTabCaptionsOfEachExample) {
         }
         EXPECT_EQ(captions, c.ribbedTabs) << c.example;
         EXPECT_EQ(a.Tabs("tabMain")->count(), c.mainTabs) << c.example;
+        // Ctrl+PageDown walks the results pages: from the project summary to the first ribbed
+        // page, then to the next one; Ctrl+PageUp goes back.
+        QWidget* results = a.window.resultsView();
+        QTest::keyClick(results, Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(a.Tabs("tabMain")->currentIndex(), 1) << c.example;
+        EXPECT_EQ(ribbed->currentIndex(), 0) << c.example;
+        QTest::keyClick(results, Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(ribbed->currentIndex(), 1) << c.example;
+
+        // Every tab, "Selected Variables" the last, stands in a window of 1280 by 800 without
+        // scrolling the tab bar.
+        QApplication::processEvents();
+        EXPECT_LE(ribbed->tabBar()->sizeHint().width(), ribbed->width()) << c.example;
+        EXPECT_LE(a.window.minimumSizeHint().width(), 1280) << c.example;
+        const QRect last = ribbed->tabBar()->tabRect(ribbed->count() - 1);
+        EXPECT_LE(last.right(), ribbed->tabBar()->width()) << c.example;
+
+        QTest::keyClick(results, Qt::Key_PageUp, Qt::ControlModifier);
+        QTest::keyClick(results, Qt::Key_PageUp, Qt::ControlModifier);
+        EXPECT_EQ(a.Tabs("tabMain")->currentIndex(), 0) << c.example;
 
         QLabel* line = a.Label("RibbedSummary(1)");
         ASSERT_TRUE(line);
@@ -179,6 +200,18 @@ TEST(PrintWindow, TheEntireReportThroughTheDialogIntoAPdf) {
     EXPECT_FALSE(print->SaveAsPdf(QString::fromStdString((a.scratch.path() / "no.pdf").string())));
     EXPECT_EQ(a.shell.dialogs.messages.back().title, "Print Warning");
     EXPECT_FALSE(std::filesystem::exists(a.scratch.path() / "no.pdf"));
+}
+
+// The families the system lists know Arial only by its twin: the dialog shows it all the same.
+TEST(PrintWindow, TheReportFontShowsTheFontInUse) {
+    Analysed a("expansive_ribbed");
+    PrintView* print = a.window.printView();
+    PrintCommand(a.program, {"DejaVu Sans", "Liberation Sans"}, "PDF file", PrintPath::Menu);
+    print->Refresh();
+    auto* fonts = print->findChild<QComboBox*>("cbbReportFont");
+    ASSERT_TRUE(fonts);
+    EXPECT_EQ(fonts->currentText(), "Arial");
+    EXPECT_EQ(fonts->count(), 3);
 }
 
 TEST(PrintWindow, WithoutResultsThePrintCommandShowsNoDialog) {

@@ -1,6 +1,7 @@
 #include "input/enabling_rules.h"
 #include "input/input_checks.h"
 #include "input/input_events.h"
+#include "input/variable_information.h"
 
 #include "input_test_support.h"
 
@@ -307,4 +308,81 @@ TEST(InputScreen, BlankAndValueChecksTakeTheUserToTheField) {
     EXPECT_FALSE(CheckRecordValues(f.screen, f.context));
     EXPECT_EQ(f.dialogs.messages.back().text, "Slab Length must be greater than Slab Width");
     EXPECT_EQ(f.screen.form.focus, "txtRectLength");
+}
+
+// After a check has taken the user to a field with its text selected, the first key replaces
+// the text and the next ones add to it: typing 3500 over "0" gives 3500, not "0" or "5".
+TEST(InputScreen, TheSelectionOfACheckIsUsedUpByTheFirstKey) {
+    InputFixture f;
+    SelectPage(f.screen, f.context, 1);
+    const StyledText projectTopic = f.screen.moreInfo;
+    f["txtFpc"].text = "0";
+    ReadInputRecord(f.screen.form, f.record, 10);
+    const int requests = f.screen.form.selectionRequests;
+    EXPECT_FALSE(CheckRecordValues(f.screen, f.context));
+    EXPECT_EQ(f.dialogs.messages.back().text, "Concrete Compressive Strength can not be zero");
+    EXPECT_EQ(f.screen.form.focus, "txtFpc");
+    EXPECT_EQ(f["txtFpc"].selStart, 0);
+    EXPECT_EQ(f["txtFpc"].selLength, 1);
+    EXPECT_EQ(f.screen.form.selectionRequests, requests + 1); // one selection, asked once
+
+    // The panel has followed the jump to the material page.
+    EXPECT_EQ(PlainText(f.screen.moreInfo), PlainText(MoreInfoForPage(2, PageTopic, f.defaults)));
+    EXPECT_NE(PlainText(f.screen.moreInfo), PlainText(projectTopic));
+
+    for (const char* typed : {"3", "35", "350", "3500"}) {
+        ChangeText(f.screen, f.context, "txtFpc", typed);
+        EXPECT_EQ(f["txtFpc"].selLength, 0) << typed;
+        EXPECT_EQ(f["txtFpc"].selStart, static_cast<int>(std::string(typed).size()));
+    }
+    EXPECT_EQ(f.screen.form.selectionRequests, requests + 1);
+
+    // A Tab step into a field asks for its selection once more; a click does not.
+    FocusIn(f.screen, "txtEc", FocusReason::TabKey);
+    EXPECT_EQ(f.screen.form.selectionRequests, requests + 2);
+    FocusIn(f.screen, "txtUW", FocusReason::Other);
+    EXPECT_EQ(f.screen.form.selectionRequests, requests + 2);
+
+    // A check on the page in front leaves a topic the user asked for in the panel.
+    RightClick(f.screen, f.context, "lblMaterialProp(2)");
+    const StyledText asked = f.screen.moreInfo;
+    f["txtFpc"].text = "0";
+    ReadInputRecord(f.screen.form, f.record, 10);
+    EXPECT_FALSE(CheckRecordValues(f.screen, f.context));
+    EXPECT_EQ(PlainText(f.screen.moreInfo), PlainText(asked));
+}
+
+TEST(InputScreen, PageKeysStepThroughThePagesAndGoRound) {
+    InputFixture f;
+    SelectPage(f.screen, f.context, 1);
+    StepPage(f.screen, f.context, 1);
+    EXPECT_EQ(f.screen.CurrentInputTab, 2);
+    EXPECT_EQ(f["tabInput"].selectedIndex, 1);
+    EXPECT_EQ(f["tlbInput(1)"].toolTip, "Open Material Properties File");
+    StepPage(f.screen, f.context, -1);
+    StepPage(f.screen, f.context, -1);
+    EXPECT_EQ(f.screen.CurrentInputTab, 7);
+    EXPECT_TRUE(f["fraInput(6)"].visible);
+    EXPECT_FALSE(f["fraInput(0)"].visible);
+    StepPage(f.screen, f.context, 1);
+    EXPECT_EQ(f.screen.CurrentInputTab, 1);
+}
+
+TEST(InputScreen, ArrowKeysChooseTheNextButtonOfAGroupThatCanBeChosen) {
+    InputFixture f;
+    const FormModel& form = f.screen.form;
+    EXPECT_EQ(NeighbourOption(form, "optTendType(2)", 1), ""); // on a page not in front
+    SelectPage(f.screen, f.context, 2);
+    EXPECT_EQ(NeighbourOption(form, "optTendType(2)", 1), "optTendType(3)");
+    EXPECT_EQ(NeighbourOption(form, "optTendType(2)", -1), "optTendType(1)");
+    EXPECT_EQ(NeighbourOption(form, "optTendType(3)", 1), ""); // no wrap at the ends
+    EXPECT_EQ(NeighbourOption(form, "optTendType(0)", -1), "");
+    // A disabled button is passed over.
+    SelectPage(f.screen, f.context, 3);
+    f["optSlabRefType(1)"].enabled = false;
+    EXPECT_EQ(NeighbourOption(form, "optSlabRefType(0)", 1), "optSlabRefType(2)");
+    EXPECT_EQ(NeighbourOption(form, "optSlabRefType(2)", -1), "optSlabRefType(0)");
+    f["optSlabRefType(0)"].enabled = false;
+    EXPECT_EQ(NeighbourOption(form, "optSlabRefType(2)", -1), "");
+    EXPECT_EQ(NeighbourOption(form, "cbFlatSlab", 1), "");
 }

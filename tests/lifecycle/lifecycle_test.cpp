@@ -303,6 +303,60 @@ TEST(ProjectLifecycle, AFailedOpenHidesTheInputAndSaysWhy) {
     EXPECT_EQ(p.project.ProjFilePath, f.Path("gone.kvt"));
 }
 
+// The unreadable file may be a damaged project the engineer wants to recover: neither Save, the
+// toolbar's Save nor Yes at a prompt writes the open project over it; only a name picked in the
+// save dialog does.
+TEST(ProjectLifecycle, AFileThatFailedToOpenIsNeverWrittenOverBySave) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    OpenRecentProject(p, f.services, f.Example("expansive_ribbed"));
+    Type(f, "txtProjName", "Lot 21");
+    const std::string damaged = f.Path("damaged.kvt");
+    const std::string bytes = "Korvath 3.0\r\n 0 \r\nLot 9\r\n";
+    WriteBytes(damaged, bytes);
+
+    f.dialogs.replies = {Answer::No};
+    f.dialogs.answers = {damaged};
+    OpenCommand(p, f.services);
+    ASSERT_EQ(f.dialogs.messages.size(), 2u);
+    EXPECT_EQ(f.dialogs.messages[1].title, "Error opening file - 62");
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - ");
+    EXPECT_TRUE(p.project.saveEnabled); // Save stays offered, as Save As
+    const std::size_t dialogs = f.dialogs.fileDialogs.size();
+
+    // Save asks for a name; cancelling writes nothing.
+    SaveCommand(p, f.services);
+    ASSERT_EQ(f.dialogs.fileDialogs.size(), dialogs + 1);
+    EXPECT_EQ(f.dialogs.fileDialogs.back().title, "Save Project As ...");
+    EXPECT_EQ(FileBytes(damaged), bytes);
+    EXPECT_EQ(p.project.ProjectChanged, 1);
+
+    // Yes at the exit prompt goes through the dialog too; its cancel keeps the program running.
+    f.dialogs.replies = {Answer::Yes};
+    EXPECT_FALSE(QueryUnload(p, f.services));
+    EXPECT_EQ(f.dialogs.fileDialogs.size(), dialogs + 2);
+    EXPECT_EQ(FileBytes(damaged), bytes);
+
+    // A name picked in the dialog is written, and from then on Save writes there.
+    const std::string rescued = f.Path("lot21.kvt");
+    f.dialogs.answers = {rescued};
+    SaveCommand(p, f.services);
+    EXPECT_EQ(p.project.ProjFilePath, rescued);
+    EXPECT_EQ(p.project.caption, "Korvath 3.0 - lot21.kvt");
+    EXPECT_NE(FileBytes(rescued).find("Lot 21"), std::string::npos);
+    Type(f, "txtProjName", "Lot 22");
+    SaveCommand(p, f.services);
+    EXPECT_EQ(f.dialogs.fileDialogs.size(), dialogs + 3);
+    EXPECT_NE(FileBytes(rescued).find("Lot 22"), std::string::npos);
+    EXPECT_EQ(FileBytes(damaged), bytes);
+
+    // Picking the unreadable file's own name in the dialog is the user's choice, and is done.
+    Type(f, "txtProjName", "Lot 23");
+    f.dialogs.answers = {damaged};
+    SaveAsCommand(p, f.services);
+    EXPECT_NE(FileBytes(damaged).find("Lot 23"), std::string::npos);
+}
+
 TEST(ProjectLifecycle, SaveFailuresKeepTheProjectChanged) {
     LifecycleFixture f;
     Program& p = f.program;

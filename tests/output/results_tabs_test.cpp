@@ -1,3 +1,4 @@
+#include "output/results_paging.h"
 #include "output/results_screen.h"
 #include "output/results_tabs.h"
 
@@ -168,4 +169,47 @@ TEST(ResultsTabs, SummaryLinesJumpToTheirFoundationsPages) {
     ClickSummaryLine(screen, record, "RibbedSummary(0)");
     EXPECT_EQ(screen.tabRibbed.selected, 1);
     EXPECT_THROW(ClickSummaryLine(screen, record, "lblCLMS"), std::out_of_range);
+}
+
+// Ctrl+PageDown and Ctrl+PageUp read the pages as one run: the project summary, the seven
+// ribbed pages, the six uniform thickness pages, the line load page, and
+// round again.
+TEST(ResultsTabs, PageKeysWalkEveryPageInTurnAndGoRound) {
+    ResultsScreen screen = LoadResultsScreen();
+    DesignRecord record = Soil(0, 0);
+    record.FlatSlab = 1, record.LineLoadType = 1;
+    ArrangeResultsScreen(screen, record, ResultsScreenWidth);
+    const int ribbed = screen.tabRibbed.count();
+    const int uniform = screen.tabUniform.count();
+    ASSERT_EQ(ribbed, 7);
+    ASSERT_EQ(uniform, 6);
+
+    StepResultsPage(screen, record, 1);
+    EXPECT_EQ(screen.tabMain.selected, 2);
+    EXPECT_EQ(screen.tabRibbed.selected, 1);
+    EXPECT_EQ(FrontFrame(screen, "fraMain", MainFrames), 1);
+    for (int page = 2; page <= ribbed; ++page) {
+        StepResultsPage(screen, record, 1);
+        EXPECT_EQ(screen.tabRibbed.selected, page);
+    }
+    StepResultsPage(screen, record, 1);
+    EXPECT_EQ(screen.tabMain.selected, 3);
+    EXPECT_EQ(screen.tabUniform.selected, 1);
+    EXPECT_EQ(FrontFrame(screen, "fraMain", MainFrames), 2);
+    for (int page = 2; page <= uniform; ++page) {
+        StepResultsPage(screen, record, 1);
+    }
+    StepResultsPage(screen, record, 1);
+    EXPECT_EQ(screen.tabMain.selected, 4);
+    EXPECT_EQ(FrontFrame(screen, "fraMain", MainFrames), 3);
+    StepResultsPage(screen, record, 1);
+    EXPECT_EQ(screen.tabMain.selected, 1); // round to the project summary
+
+    // Back from the summary: the line load page, then the last uniform page.
+    StepResultsPage(screen, record, -1);
+    EXPECT_EQ(screen.tabMain.selected, 4);
+    StepResultsPage(screen, record, -1);
+    EXPECT_EQ(screen.tabMain.selected, 3);
+    EXPECT_EQ(screen.tabUniform.selected, uniform);
+    EXPECT_EQ(FrontFrame(screen, "fraUTFOutput", UniformFrames), UniformFrameOfTab(0, 0, uniform));
 }

@@ -62,10 +62,16 @@ TEST(PrintRDS, LinesInOrderWithValuesRightAlignedAndUnitsHanging) {
     // The title two lines above the first line, which begins at 230 x 2.25 + 2805 = 3322.
     EXPECT_EQ(r.Placed("RIBBED FOUNDATION - DESIGN SUMMARY").y, 3322);
     EXPECT_EQ(r.Placed("Slab Dimensions :").y, 3322 + 460);
-    // The prime 30 twips above the line, the subscript 60 below.
+    // The prime on the line after the "f" (22 characters from x 2160), the subscript after it
+    // at 7 point, lowered to the bottom of the 10 point line: 230 - 161 twips; " :" after the
+    // subscript's 70 twips.
     const double line = r.Placed("Concrete Strength,   f").y;
-    EXPECT_EQ(r.Placed("'").y, line - 30);
-    EXPECT_EQ(r.Placed("c").y, line + 60);
+    EXPECT_EQ(r.Placed("'").y, line);
+    EXPECT_EQ(r.Placed("'").x, 4360);
+    EXPECT_EQ(r.Placed("c").y, line + 69);
+    EXPECT_EQ(r.Placed("c").x, 4460);
+    EXPECT_EQ(r.Placed("c").size, 7);
+    EXPECT_EQ(r.Placed(" :").x, 4530);
     EXPECT_EQ(r.Placed("1 / 2  Inch").x, 8280 - 500);
     EXPECT_EQ(r.Placed("70.3  Cubic Yards").x, 8280 - 400);
     EXPECT_EQ(r.Placed("1,235  Linear Feet").x, 8280 - 500); // 1234.5 rounds away from zero
@@ -95,7 +101,8 @@ TEST(PrintRDS, CustomTendonAreaWithItsRaisedSquare) {
     const RecordedText& area = r.Placed("0.153  Inches");
     EXPECT_EQ(area.x, 8280 - 500);
     const RecordedText& square = r.Placed("2");
-    EXPECT_EQ(square.y, area.y - 30);
+    EXPECT_EQ(square.y, area.y); // at 7 point, raised to the top of the line
+    EXPECT_EQ(square.size, 7);
     EXPECT_EQ(square.x, 8280 + 800);
     // The cover given: 0.25 + 1.25.
     const std::vector<std::string> body = r.Body();

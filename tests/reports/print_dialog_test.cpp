@@ -186,3 +186,26 @@ TEST(PrintDialog, PrinterErrorsNameTheirPath) {
     EXPECT_EQ(other.title, "Printing Critical Error");
     EXPECT_EQ(other.text, "Printer error");
 }
+
+// On a system that knows Arial only by its metric twin the list of families has no "Arial": the
+// dialog still shows the font in use, first in the list and chosen, and another font chosen
+// stays chosen when the dialog opens again.
+TEST(PrintDialog, TheReportFontListShowsTheFontInUse) {
+    PrintDialog dialog = LoadPrintDialog();
+    const DesignRecord project = Project(0, 0, 0, 0);
+    const std::vector<std::string> families = {"DejaVu Sans", "Liberation Sans",
+                                               "Liberation Serif"};
+    OpenPrintDialog(dialog, project, families, "PDF", PrintPath::Menu);
+    const Control& list = dialog.form["cbbReportFont"];
+    EXPECT_EQ(list.items, (std::vector<std::string>{"Arial", "DejaVu Sans", "Liberation Sans",
+                                                    "Liberation Serif"}));
+    EXPECT_EQ(list.selectedIndex, 0);
+    EXPECT_EQ(list.text, "Arial");
+
+    ChooseReportFont(dialog, 3);
+    EXPECT_EQ(list.text, "Liberation Serif");
+    OpenPrintDialog(dialog, project, families, "PDF", PrintPath::Toolbar);
+    EXPECT_EQ(list.items, families); // the font in use is listed: nothing is added
+    EXPECT_EQ(list.selectedIndex, 2);
+    EXPECT_EQ(list.text, "Liberation Serif");
+}

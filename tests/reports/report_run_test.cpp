@@ -258,7 +258,8 @@ TEST(PrintResults, BearingAreaAndSoilPressureShareOneLineWhereTheLabelLeavesRoom
     EXPECT_GT(step, 200);
     EXPECT_EQ(placed("2,206  FT").y, line);
     EXPECT_EQ(placed("2,206  FT").x, 5040 - 500);
-    EXPECT_EQ(placed("2").y, line - 30);
+    EXPECT_EQ(placed("2").y, line); // the power at 7 point, at the top of the line
+    EXPECT_EQ(placed("2").size, 7);
     EXPECT_EQ(placed("2").x, 5040 + 400);
     EXPECT_EQ(placed("Applied Pressure on Soil").y, line);
     EXPECT_EQ(placed("Applied Pressure on Soil").x, 5760);
@@ -274,7 +275,7 @@ TEST(PrintResults, BearingAreaAndSoilPressureShareOneLineWhereTheLabelLeavesRoom
     beams.results.BearingArea = 598, beams.results.SoilPressure = 614;
     PrintRROA_Comp(beams.page, Heights, true);
     EXPECT_EQ(beams.LineOf("Bearing Area (based on beam bottom area only)"),
-              (std::vector<std::string>{"598  FT"}));
+              (std::vector<std::string>{"598  FT", "2"}));
     EXPECT_EQ(beams.LineOf("Applied Pressure on Soil"), (std::vector<std::string>{"614  PSF"}));
 }
 
