@@ -45,9 +45,9 @@ LiveVerdict JudgeValuesAsTyped(const FormModel& input, const DesignRecord& recor
                           " in the beam depth ratio of the design exceptions");
     }
     const DesignVerdict verdict = JudgeDesign(typed, checks);
-    LiveVerdict live{
-        VerdictSentence(Foundation::Ribbed, verdict.ribbed, checks, GoverningShown::OnFailure),
-        true, verdict.ribbed.pass};
+    LiveVerdict live{"As typed: " + VerdictSentence(Foundation::Ribbed, verdict.ribbed, checks,
+                                                    GoverningShown::OnFailure),
+                     true, verdict.ribbed.pass};
     if (verdict.uniform) {
         live.text += "; " + VerdictSentence(Foundation::Uniform, *verdict.uniform, checks,
                                             GoverningShown::OnFailure);

@@ -67,7 +67,7 @@ TEST(LiveVerdict, GivesEachFoundationOfTheValuesAsTyped) {
     ExampleOnScreen down("compressible_edge_down.kvt");
     EXPECT_EQ(
         JudgeValuesAsTyped(down.screen.form, down.record, ResultsRecord{}, EngineSettings{}).text,
-        "Ribbed foundation: PASS");
+        "As typed: Ribbed foundation: PASS");
 }
 
 TEST(LiveVerdict, IsDue150MillisecondsAfterTheLastEditAndOnce) {
