@@ -37,11 +37,19 @@ ChecksDock::ChecksDock(ChecksPanel& panel, std::function<void(std::size_t)> open
     }
     m_table->setHorizontalHeaderLabels(captions);
     m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
+    m_table->setWordWrap(false);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->horizontalHeader()->setSectionsClickable(true);
     m_table->horizontalHeader()->setHighlightSections(false);
+    // The item and its numbers near the start, where the eye is; the mode, which the item names
+    // too, last.
+    QHeaderView* header = m_table->horizontalHeader();
+    for (const CheckColumn column : {CheckColumn::Mode}) {
+        header->moveSection(header->visualIndex(static_cast<int>(column)), CheckColumns - 1);
+    }
     layout->addWidget(m_caption);
     layout->addWidget(m_failingOnly);
     layout->addWidget(m_table);

@@ -327,6 +327,8 @@ void MainWindow::BuildChecks() {
         },
         this);
     addDockWidget(Qt::RightDockWidgetArea, m_checksDock);
+    // Wide enough for the item, both numbers and the ratio beside the results.
+    resizeDocks({m_checksDock}, {660}, Qt::Horizontal);
     m_checksDock->hide();
     m_strip->hide();
 
@@ -371,6 +373,7 @@ void MainWindow::ShowLiveVerdict() {
         JudgeValuesAsTyped(m_program.input.form, m_program.record, m_program.results,
                            m_program.settings.options.engineSettings());
     m_liveVerdict->setText(QString::fromStdString(live.text));
+    m_liveVerdict->setToolTip(QString::fromStdString(live.text));
     m_liveVerdict->setStyleSheet(!live.checked ? ""
                                  : live.pass   ? "color: #1a7f1a;"
                                                : "color: #ff0000;");

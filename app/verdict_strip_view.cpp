@@ -14,6 +14,8 @@ const char* const FailStyle = "color: #ff0000; font-weight: bold;";
 VerdictStripView::VerdictStripView(std::function<void()> clicked, QWidget* parent)
     : QWidget(parent), m_clicked(std::move(clicked)) {
     setObjectName("fraVerdict");
+    setAttribute(Qt::WA_StyledBackground, true);
+    setStyleSheet("#fraVerdict { background: #f7f7f2; border-bottom: 1px solid #c8c8c0; }");
     setCursor(Qt::PointingHandCursor);
     setToolTip("Every check with its numbers: click for the Checks panel (F6)");
     auto* layout = new QVBoxLayout(this);

@@ -52,9 +52,9 @@ bool Numeric(CheckColumn column) {
 }
 
 std::array<std::string, CheckColumns> Cells(const DesignCheck& check) {
-    return {FoundationTitle(check.foundation),
+    return {check.foundation == Foundation::Ribbed ? "Ribbed" : "Uniform",
             ModeTitle(check.mode),
-            CheckItemText(check),
+            CheckTitle(check),
             CheckQuantityText(check.demand, check),
             CheckQuantityText(check.limit, check),
             CheckUnitText(check),

@@ -41,6 +41,8 @@ void LoadChecksPanel(ChecksPanel& panel, const DesignRecord& record, const Resul
 // status sorts the checks not ok first when ascending.
 void SortChecks(ChecksPanel& panel, CheckColumn column);
 
+// The cells: "Ribbed" or "Uniform", the mode's title, the item with its mode and direction
+// ("Stiffness, edge lift, long"), then as output/check_text.h gives them.
 struct ChecksPanelRow {
     std::size_t check; // its index in the table
     std::array<std::string, CheckColumns> cells;
