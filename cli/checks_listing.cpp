@@ -31,8 +31,10 @@ bool Listed(const DesignCheck& check, bool failingOnly) {
 void PrintDesignChecks(std::span<const DesignCheck> checks, const DesignVerdict& verdict,
                        bool failingOnly, bool colour, std::ostream& out) {
     std::size_t itemWidth = std::strlen("Item");
+    std::size_t statusWidth = std::strlen("Status");
     for (const DesignCheck& check : checks) {
         itemWidth = std::max(itemWidth, CheckItemText(check).size());
+        statusWidth = std::max(statusWidth, CheckStatusText(check.status).size());
     }
     const auto columnsLine = [&](const std::string& item, const std::string& demand,
                                  const std::string& limit, const std::string& unit,
@@ -40,7 +42,8 @@ void PrintDesignChecks(std::span<const DesignCheck> checks, const DesignVerdict&
                                  const std::string& section) {
         std::string line = "  " + Padded(item, itemWidth) + RightAligned(demand, NumberWidth) +
                            RightAligned(limit, NumberWidth) + "  " + Padded(unit, 5) +
-                           RightAligned(ratio, 7) + "  " + Padded(status, 6) + "  " + section;
+                           RightAligned(ratio, 7) + "  " + Padded(status, statusWidth) + "  " +
+                           section;
         line.erase(line.find_last_not_of(' ') + 1);
         return line;
     };
