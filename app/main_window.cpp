@@ -1,10 +1,12 @@
 #include "app/main_window.h"
 
+#include "app/checks_dock.h"
 #include "app/input_view.h"
 #include "app/options_view.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
 #include "app/toolbar_icons.h"
+#include "app/verdict_strip_view.h"
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
@@ -17,9 +19,12 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QStyle>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -36,15 +41,29 @@ MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTar
     welcome->setAlignment(Qt::AlignCenter);
     welcome->setObjectName("welcome");
     m_input = new InputView(
-        m_program, m_services, [this] { Refresh(); }, m_stack);
+        m_program, m_services,
+        [this] {
+            Refresh();
+            InputEdited();
+        },
+        m_stack);
     m_results = new ResultsView(m_program.output, m_program.record, m_program.results, m_stack);
     m_stack->addWidget(welcome);
     m_stack->addWidget(m_input);
     m_stack->addWidget(m_results);
-    setCentralWidget(m_stack);
+    // The verdict strip stands above the stack of screens and shows with the results.
+    auto* central = new QWidget(this);
+    auto* centralLayout = new QVBoxLayout(central);
+    centralLayout->setContentsMargins(0, 0, 0, 0);
+    centralLayout->setSpacing(0);
+    m_strip = new VerdictStripView([this] { m_checksDock->show(); }, central);
+    centralLayout->addWidget(m_strip);
+    centralLayout->addWidget(m_stack);
+    setCentralWidget(central);
     m_options = new OptionsView(m_program, m_services, m_association, this);
     m_print = new PrintView(
         m_program, m_services, [this] { m_options->Open(0); }, this);
+    BuildChecks();
     BuildMenus();
     BuildToolbar();
     setMinimumSize(1000, 640);
@@ -142,6 +161,13 @@ void MainWindow::BuildMenus() {
     QAction* analysis = AddAction(screen, "mnuAnalysis", "&Analysis");
     analysis->setShortcut(Qt::Key_F5);
     connect(analysis, &QAction::triggered, this, [this] { RunAnalysis(); });
+    screen->addSeparator();
+    QAction* checks = m_checksDock->toggleViewAction();
+    checks->setText("&Checks");
+    checks->setObjectName("mnuChecks");
+    checks->setShortcut(Qt::Key_F6);
+    screen->addAction(checks);
+    m_actions["mnuChecks"] = checks;
 
     QMenu* help = menuBar()->addMenu("&Help");
     help->setObjectName("mnuHelp");
@@ -257,6 +283,7 @@ void MainWindow::Refresh() {
     }
     m_actions["mnuRUSeparator"]->setVisible(RecentFilesSeparatorVisible(m_program.settings));
 
+    RefreshChecks();
     if (m_program.output.visible) {
         m_results->Refresh();
         m_stack->setCurrentWidget(m_results);
@@ -276,6 +303,15 @@ void MainWindow::RunAnalysis() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const AnalysisResult result = AnalysisReset(m_program, m_services);
     QApplication::restoreOverrideCursor();
+    if (result == AnalysisResult::ResultsShown) {
+        try {
+            LoadChecksPanel(m_checksPanel, m_program.record, m_program.results);
+            ++m_checksLoads;
+        } catch (const ArithmeticFault&) {
+            // The results screen has met the same fault first and ended the program.
+            m_checksPanel.loaded = false;
+        }
+    }
     if (result == AnalysisResult::EndProgram) {
         // The fault has been shown: the program ends at once and saves nothing.
         m_ending = true;
@@ -284,6 +320,71 @@ void MainWindow::RunAnalysis() {
         return;
     }
     Refresh();
+}
+
+void MainWindow::BuildChecks() {
+    m_checksDock = new ChecksDock(
+        m_checksPanel,
+        [this](std::size_t check) {
+            if (!m_program.project.outputEnabled) {
+                return;
+            }
+            OpenCheckPage(m_checksPanel, check, m_program.output);
+            ShowOutputScreen(m_program);
+            Refresh();
+        },
+        this);
+    addDockWidget(Qt::RightDockWidgetArea, m_checksDock);
+    // Wide enough for the item, both numbers and the ratio beside the results.
+    resizeDocks({m_checksDock}, {660}, Qt::Horizontal);
+    m_checksDock->hide();
+    m_strip->hide();
+
+    m_liveVerdict = new QLabel(this);
+    m_liveVerdict->setObjectName("lblLiveVerdict");
+    statusBar()->addWidget(m_liveVerdict, 1);
+    m_liveTimer = new QTimer(this);
+    m_liveTimer->setSingleShot(true);
+    connect(m_liveTimer, &QTimer::timeout, this, [this] { ShowLiveVerdict(); });
+    m_clock.start();
+}
+
+void MainWindow::RefreshChecks() {
+    const bool results = m_program.output.visible && m_checksPanel.loaded;
+    m_strip->Refresh(VerdictStripLines(m_checksPanel));
+    m_strip->setVisible(results);
+    // The table is drawn again only when it has something new to show.
+    const std::pair<int, bool> shown{m_checksLoads, m_program.project.outputEnabled};
+    if (shown != m_checksShown) {
+        m_checksShown = shown;
+        m_checksDock->Refresh(shown.second);
+    }
+    if (!m_program.input.visible) {
+        m_liveTimer->stop();
+        m_liveVerdict->clear();
+    }
+}
+
+// Each event of the input pages puts the verdict of the values as typed off by a moment, so
+// that it is worked out once the engineer pauses.
+void MainWindow::InputEdited() {
+    if (m_program.input.visible) {
+        m_liveTimer->start(static_cast<int>(m_liveSchedule.Edited(m_clock.elapsed())));
+    }
+}
+
+void MainWindow::ShowLiveVerdict() {
+    if (!m_program.input.visible || !m_liveSchedule.TakeDue(m_clock.elapsed())) {
+        return;
+    }
+    const LiveVerdict live =
+        JudgeValuesAsTyped(m_program.input.form, m_program.record, m_program.results,
+                           m_program.settings.options.engineSettings());
+    m_liveVerdict->setText(QString::fromStdString(live.text));
+    m_liveVerdict->setToolTip(QString::fromStdString(live.text));
+    m_liveVerdict->setStyleSheet(!live.checked ? ""
+                                 : live.pass   ? "color: #1a7f1a;"
+                                               : "color: #ff0000;");
 }
 
 void MainWindow::OpenPrintDialog(PrintPath path) {

@@ -1,14 +1,21 @@
 #pragma once
 
+#include "input/live_verdict.h"
 #include "lifecycle/options_dialog.h"
 #include "lifecycle/program.h"
+#include "output/checks_panel.h"
 #include "shell/shell_services.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <map>
 #include <string>
 
+class ChecksDock;
 class InputView;
+class QLabel;
+class QTimer;
+class VerdictStripView;
 class OptionsView;
 class PrintView;
 class QAction;
@@ -38,6 +45,11 @@ class MainWindow : public QMainWindow {
     ResultsView* resultsView() const { return m_results; }
     OptionsView* optionsView() const { return m_options; }
     PrintView* printView() const { return m_print; }
+    ChecksDock* checksDock() const { return m_checksDock; }
+
+    // The Analysis command (F5): the results screen, the verdict strip and the Checks panel
+    // from the values on the input pages.
+    void RunAnalysis();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -46,7 +58,6 @@ class MainWindow : public QMainWindow {
     void BuildMenus();
     void BuildToolbar();
     QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
-    void RunAnalysis();
     void OpenPrintDialog(PrintPath path);
     void ShowAbout();
 
@@ -61,4 +72,19 @@ class MainWindow : public QMainWindow {
     OptionsView* m_options;
     PrintView* m_print;
     bool m_ending = false;
+
+    // The check table of the last analysis and its views; the verdict of the values as typed.
+    void BuildChecks();
+    void RefreshChecks();
+    void InputEdited();
+    void ShowLiveVerdict();
+    ChecksPanel m_checksPanel;
+    int m_checksLoads = 0;
+    std::pair<int, bool> m_checksShown{-1, false};
+    ChecksDock* m_checksDock;
+    VerdictStripView* m_strip;
+    QLabel* m_liveVerdict;
+    QTimer* m_liveTimer;
+    QElapsedTimer m_clock;
+    LiveVerdictSchedule m_liveSchedule;
 };

@@ -74,7 +74,8 @@ int main(int argc, char** argv) {
     }
     options->hide();
 
-    if (AnalysisReset(program, window.services()) == AnalysisResult::ResultsShown) {
+    window.RunAnalysis();
+    if (program.output.visible) {
         window.Refresh();
         QApplication::processEvents();
         Save(&window, folder + "/results.png");

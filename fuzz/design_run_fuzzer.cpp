@@ -1,8 +1,9 @@
 // Turns bytes into a design record and runs everything an analysis runs: the value checks, the
-// engine, the compliance and exception lists, the results screen and the entire report on the
-// recording surface. Each record must end in an input error, an engine fault, or results that
-// are all finite and a report whose every sheet is drawn.
+// engine, the compliance and exception lists, the results screen, the check table and the entire
+// report on the recording surface. Each record must end in an input error, an engine fault, or
+// results that are all finite and a report whose every sheet is drawn.
 
+#include "compliance/design_checks.h"
 #include "engine/tendon_size.h"
 #include "input/record_values.h"
 #include "output/results_run.h"
@@ -103,6 +104,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0; // the design exceptions, or a value too large to show, end the run as a fault
     }
     const CompliancePass& pass = run.pass;
+    // The check table of the same results: every ratio a number, and a verdict that fails a
+    // foundation exactly when one of its checks is not ok.
+    const std::vector<DesignCheck> checks = DesignChecks(record, results);
+    const DesignVerdict verdict = JudgeDesign(record, checks);
+    bool ribbedOk = true;
+    for (const DesignCheck& check : checks) {
+        if (check.ratio && !std::isfinite(*check.ratio)) {
+            Fail("a ratio of the check table is not finite");
+        }
+        if (check.foundation == Foundation::Ribbed && check.status != CheckStatus::Ok) {
+            ribbedOk = false;
+        }
+    }
+    if (verdict.ribbed.pass != ribbedOk) {
+        Fail("the ribbed verdict does not follow its checks");
+    }
     PrintJob job;
     job.pages = RangePages(PrintRange::Entire, record, {}, {});
     job.totalSheets = RangeSheetCount(PrintRange::Entire, record, {}, {});

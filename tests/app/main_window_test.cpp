@@ -5,6 +5,7 @@
 #include "app/results_view.h"
 #include "input/input_form.h"
 #include "lifecycle/project_lifecycle.h"
+#include "output/checks_panel.h"
 #include "shell/load_settings.h"
 
 #include "tests/shell/shell_test_support.h"
@@ -12,12 +13,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -204,4 +209,70 @@ TEST(DesktopProgram, EnterWalksTheTabSequenceAndTabSelectsTheField) {
     EXPECT_EQ(QApplication::focusWidget(), date);
     EXPECT_EQ(date->selectedText(), date->text()); // reached as by the Tab key: all selected
     EXPECT_EQ(name->text(), "Meadowbrook Residence, Lot 14"); // Enter typed nothing
+}
+
+// The expansive example fails three cracked capacity checks, the largest in center lift short at
+// 121.3 % over its capacity (ratio 2.21). The strip says so after the analysis, F6 opens the
+// Checks panel, its filter leaves those three in red, and a double click on one brings up the
+// ribbed center lift page.
+TEST(DesktopProgram, TheVerdictStripAndTheChecksPanelFollowTheAnalysis) {
+    Desktop d("expansive_ribbed");
+    auto* strip = d.Find<QWidget>("fraVerdict");
+    EXPECT_FALSE(strip->isVisible());
+    d.window.Action("mnuAnalysis")->trigger();
+    QApplication::processEvents();
+    EXPECT_TRUE(strip->isVisible());
+    auto* line = d.Find<QLabel>("lblVerdict(0)");
+    EXPECT_EQ(line->text(), "Ribbed foundation: FAIL: 3 checks over their limits, governing "
+                            "CRACKED MOMENT CAPACITY, CENTER LIFT, SHORT (2.21)");
+    EXPECT_FALSE(d.Find<QLabel>("lblVerdict(1)")->isVisible());
+
+    auto* dock = d.Find<QDockWidget>("dckChecks");
+    EXPECT_FALSE(dock->isVisible());
+    QAction* checks = d.window.Action("mnuChecks");
+    EXPECT_EQ(checks->shortcut(), QKeySequence(Qt::Key_F6));
+    checks->trigger();
+    QApplication::processEvents();
+    EXPECT_TRUE(dock->isVisible());
+
+    auto* table = d.Find<QTableWidget>("grdChecks");
+    d.Find<QCheckBox>("chkFailingOnly")->setChecked(true);
+    ASSERT_EQ(table->rowCount(), 3);
+    EXPECT_EQ(table->item(0, static_cast<int>(CheckColumn::Item))->text(),
+              "Cracked moment capacity, center lift, short");
+    EXPECT_EQ(table->item(0, 0)->foreground().color(), QColor(255, 0, 0));
+
+    auto* tabMain = d.Find<QTabWidget>("tabMain");
+    auto* tabRibbed = d.Find<QTabWidget>("tabRibbed");
+    EXPECT_EQ(tabMain->currentIndex(), 0);
+    emit table->cellDoubleClicked(0, 0);
+    QApplication::processEvents();
+    EXPECT_EQ(tabMain->currentIndex(), 1);
+    EXPECT_EQ(tabRibbed->tabText(tabRibbed->currentIndex()), "Center Lift Analysis");
+}
+
+// Typing on the input pages gives the verdict of the values as typed in the status bar, after a
+// pause, and leaves the results of the last analysis as they were.
+TEST(DesktopProgram, TheStatusBarGivesTheVerdictOfTheValuesAsTyped) {
+    Desktop d("compressible_edge_down");
+    d.window.Action("mnuAnalysis")->trigger();
+    const double pressure = d.program.results.SoilPressure;
+    d.window.ToolbarButton("Input")->click();
+    auto* thickness = d.Find<QLineEdit>("txtSlabThick");
+    thickness->setFocus();
+    thickness->selectAll();
+    QTest::keyClicks(thickness, "0");
+    auto* status = d.Find<QLabel>("lblLiveVerdict");
+    const auto shown = [status](const QString& text) {
+        for (int i = 0; i < 100 && status->text() != text; ++i) {
+            QTest::qWait(20);
+        }
+        return status->text();
+    };
+    EXPECT_EQ(shown("not checked: Slab Thickness can not be zero"),
+              "not checked: Slab Thickness can not be zero");
+    QTest::keyClick(thickness, Qt::Key_Backspace);
+    QTest::keyClicks(thickness, "5");
+    EXPECT_EQ(shown("As typed: Ribbed foundation: PASS"), "As typed: Ribbed foundation: PASS");
+    EXPECT_EQ(d.program.results.SoilPressure, pressure);
 }
