@@ -115,12 +115,16 @@ fuzz-long: deps
 bench: build
 	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
-# Pictures of the desktop program's windows for each example, drawn without a display.
+# Pictures of the desktop program's windows for each example, drawn without a display, and the
+# plan drawing of each as PNG, SVG and PDF.
 screenshots: build
 	@for project in $(EXAMPLES); do \
 	  name=$$(basename "$$project" .kvt); \
 	  QT_QPA_PLATFORM=offscreen build/bin/korvath3-screenshots "build/screenshots/$$name" "$$project" \
 	    2>/dev/null || exit $$?; \
+	  for kind in png svg pdf; do \
+	    $(CLI) sketch "$$project" -o "build/screenshots/$$name/plan.$$kind" || exit $$?; \
+	  done; \
 	done
 
 install: build

@@ -10,7 +10,9 @@
 
 class InputView;
 class OptionsView;
+class PlanPanel;
 class PrintView;
+class QDockWidget;
 class QAction;
 class QStackedWidget;
 class QToolButton;
@@ -38,6 +40,7 @@ class MainWindow : public QMainWindow {
     ResultsView* resultsView() const { return m_results; }
     OptionsView* optionsView() const { return m_options; }
     PrintView* printView() const { return m_print; }
+    QDockWidget* planDock() const { return m_planDock; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -60,5 +63,8 @@ class MainWindow : public QMainWindow {
     ResultsView* m_results;
     OptionsView* m_options;
     PrintView* m_print;
+    // The plan of the analysed design, beside the results.
+    QDockWidget* m_planDock;
+    PlanPanel* m_plan;
     bool m_ending = false;
 };

@@ -21,6 +21,10 @@ void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan, con
 void DrawTypicalSections(DrawingSurface& surface, const FoundationPlan& plan,
                          const DrawingBox& box);
 
+// Whether the typical sections can be drawn in the box at all: a narrow box holds the plan but
+// not the sections with their dimensions.
+bool TypicalSectionsFit(DrawingSurface& surface, const FoundationPlan& plan, const DrawingBox& box);
+
 // A whole sheet: its title lines at the top, the plan, and the typical sections below it.
 void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
                    const std::vector<std::string>& titleLines, const DrawingBox& sheet);

@@ -173,6 +173,18 @@ TEST(PlanDrawing, NoTextOverlapsAnotherOrALineAtAnySize) {
                             {panel.x, panel.y, panel.x + panel.width, panel.y + panel.height},
                             what + " on a panel");
                     }
+                    {
+                        // A narrow panel: the gap and spacing across the width are told in a
+                        // line, and the sections are left out when they cannot fit.
+                        RecordingSurface surface;
+                        surface.BeginDocument();
+                        DrawFoundationPlan(surface, plan, {0, 0, 4500, 6000});
+                        if (TypicalSectionsFit(surface, plan, {0, 6100, 4500, 3000})) {
+                            DrawTypicalSections(surface, plan, {0, 6100, 4500, 3000});
+                        }
+                        ExpectClearTexts(surface.sheets().back(), {0, 0, 4500, 9100},
+                                         what + " on a narrow panel");
+                    }
                     ++drawn;
                     if (::testing::Test::HasFailure()) {
                         return;
@@ -246,11 +258,33 @@ TEST(PlanDrawing, DrawsThePlanToScaleWithItsBeamsTendonsAndTexts) {
     }
     for (const std::string expected :
          {"28.67 ft clear", "29.00 ft analysis spacing", "60.00 ft", "38.00 ft", "clear",
-          "40.00 ft", "analysis spacing", "LONG DIRECTION", "SHORT DIRECTION",
+          "40.00 ft", "LONG DIRECTION", "SHORT", "DIRECTION", "analysis", "spacing",
           "Short Type 2: 1 beam, 8 x 22 in, 2 tendons each",
           "Short slab tendons: 10 at 6.22 ft o.c.", "Long slab tendons: 5 at 9.00 ft o.c."}) {
         EXPECT_NE(std::find(texts.begin(), texts.end(), expected), texts.end()) << expected;
     }
+}
+
+TEST(PlanDrawing, ANarrowBoxTellsTheDimensionsAcrossTheWidthInALine) {
+    Case c = MakeCase(40, 60, 3, 3, 10);
+    c.results.SpacingLong = 19;
+    const FoundationPlan plan = PlanOf(c.record, c.results);
+    RecordingSurface surface;
+    surface.BeginDocument();
+    DrawFoundationPlan(surface, plan, {0, 0, 4500, 6000});
+    std::vector<std::string> texts;
+    for (const RecordedText& text : surface.sheets().back().texts) {
+        texts.push_back(text.text);
+    }
+    // Two 12 in and one 9 in long beams on 40 ft: gaps of (40 - 33/12) / 2 = 18.625 ft.
+    EXPECT_NE(std::find(texts.begin(), texts.end(),
+                        "Long direction beams: 18.63 ft clear, 19.00 ft analysis"),
+              texts.end());
+    EXPECT_NE(std::find(texts.begin(), texts.end(), "spacing"), texts.end());
+    EXPECT_EQ(std::find(texts.begin(), texts.end(), "clear"), texts.end());
+    // Four sections with their dimensions need more than 4500 twips.
+    EXPECT_FALSE(TypicalSectionsFit(surface, plan, {0, 0, 4500, 3000}));
+    EXPECT_TRUE(TypicalSectionsFit(surface, plan, {0, 0, 14000, 4500}));
 }
 
 TEST(PlanDrawing, APlanThatCannotBeDrawnShowsWhy) {

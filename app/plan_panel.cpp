@@ -1,0 +1,63 @@
+#include "app/plan_panel.h"
+
+#include "reports/plan_drawing.h"
+#include "reports/qt/painter_surface.h"
+
+#include <QPainter>
+
+namespace {
+
+// The white margin round the drawing, in twips.
+constexpr double Margin = 150;
+
+} // namespace
+
+PlanPanel::PlanPanel(QWidget* parent) : QWidget(parent) {
+    setMinimumSize(320, 300);
+}
+
+void PlanPanel::Show(const FoundationPlan& plan, bool drawn, const std::string& reason,
+                     const std::vector<std::string>& titleLines) {
+    m_plan = plan;
+    m_drawn = drawn;
+    m_reason = reason;
+    m_titleLines = titleLines;
+    update();
+}
+
+void PlanPanel::paintEvent(QPaintEvent*) {
+    {
+        QPainter background(this);
+        background.fillRect(rect(), Qt::white);
+    }
+    if (m_drawn) {
+        PainterSurface surface(*this);
+        surface.BeginDocument();
+        const double twipsPerPixel = 1440.0 / logicalDpiX();
+        const double width = this->width() * twipsPerPixel - 2 * Margin;
+        const double height = this->height() * twipsPerPixel - 2 * Margin;
+        if (!m_titleLines.empty()) {
+            DrawPlanSheet(surface, m_plan, m_titleLines, {Margin, Margin, width, height});
+        } else {
+            // The sections under the plan when the panel is wide enough for them.
+            const DrawingBox sections{Margin, Margin + height * 0.62, width, height * 0.38};
+            const bool withSections = TypicalSectionsFit(surface, m_plan, sections);
+            DrawFoundationPlan(
+                surface, m_plan,
+                {Margin, Margin, width, withSections ? height * 0.62 - 100 : height});
+            if (withSections) {
+                DrawTypicalSections(surface, m_plan, sections);
+            }
+        }
+        surface.EndDocument();
+    }
+    if (!m_reason.empty()) {
+        QPainter painter(this);
+        if (m_drawn) {
+            painter.fillRect(rect(), QColor(255, 255, 255, 185));
+        }
+        painter.setPen(QColor(160, 0, 0));
+        painter.drawText(rect().adjusted(12, 10, -12, -10), Qt::AlignTop | Qt::TextWordWrap,
+                         QString::fromStdString(m_reason));
+    }
+}
