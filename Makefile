@@ -3,7 +3,7 @@
 #               write their entire reports to build/reports/
 #   make test   install what is missing, build, and run every test (also under the sanitizers)
 #   make bench  time the analysis, the project files and the design search
-#   make screenshots  pictures of the desktop program's windows in build/screenshots/
+#   make screenshots  pictures of the desktop program's windows in build/screenshots/, and plans
 #   make fuzz   the libFuzzer targets in build-fuzz/ (make test runs each briefly)
 #   make fuzz-long    each target for FUZZ_RUNS executions (10 million) under LeakSanitizer
 #   make install      install the programs, desktop entry, file type, icon and examples

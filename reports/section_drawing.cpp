@@ -196,7 +196,7 @@ void DrawTypicalSections(DrawingSurface& surface, const FoundationPlan& plan,
         surface.SetLineWidth(DimensionLineWidth);
 
         // The slab tendon in each wing; the beam's tendons side by side at their cover.
-        const double tendonSize = std::max(section.tendonDiameter * scale, 45.0);
+        const double tendonSize = std::max(section.tendonDiameter * scale, 70.0);
         const double slabTendonLevel = top + section.slabTendonDepth * scale;
         DrawTendon(surface, left + wing / 2, slabTendonLevel, tendonSize);
         DrawTendon(surface, right - wing / 2, slabTendonLevel, tendonSize);
