@@ -13,7 +13,7 @@ constexpr double Margin = 150;
 } // namespace
 
 PlanPanel::PlanPanel(QWidget* parent) : QWidget(parent) {
-    setMinimumSize(320, 300);
+    setMinimumSize(240, 240);
 }
 
 void PlanPanel::Show(const FoundationPlan& plan, bool drawn, const std::string& reason,
@@ -56,8 +56,14 @@ void PlanPanel::paintEvent(QPaintEvent*) {
         if (m_drawn) {
             painter.fillRect(rect(), QColor(255, 255, 255, 185));
         }
+        // The reason on a white band of its own, clear of the greyed drawing under it.
+        const QRect area = rect().adjusted(12, 8, -12, -8);
+        const QString reason = QString::fromStdString(m_reason);
+        const QRect band = painter.boundingRect(area, Qt::AlignTop | Qt::TextWordWrap, reason)
+                               .adjusted(-6, -4, 6, 4);
+        painter.fillRect(band, Qt::white);
         painter.setPen(QColor(160, 0, 0));
-        painter.drawText(rect().adjusted(12, 10, -12, -10), Qt::AlignTop | Qt::TextWordWrap,
-                         QString::fromStdString(m_reason));
+        painter.drawRect(band);
+        painter.drawText(area, Qt::AlignTop | Qt::TextWordWrap, reason);
     }
 }
