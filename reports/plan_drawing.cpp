@@ -139,14 +139,14 @@ void DrawReason(DrawingSurface& surface, const std::string& reason, const Drawin
 
 } // namespace
 
-void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
-                        const DrawingBox& box) {
+double DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
+                          const DrawingBox& box) {
     surface.SetColour(Black);
     surface.SetLineWidth(DimensionLineWidth);
     surface.SetLineStyle(LineStyle::Solid);
     if (!plan.reason.empty()) {
         DrawReason(surface, plan.reason, box);
-        return;
+        return 0;
     }
 
     UseDrawingTitle(surface);
@@ -207,7 +207,7 @@ void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
         box.height - topBand - bottomBand - legendHeight - toldHeight - notesHeight;
     if (roomWidth <= 0 || roomHeight <= 0) {
         DrawReason(surface, "The box is too small for the plan.", box);
-        return;
+        return 0;
     }
     // Feet to twips, the same both ways.
     const double scale = std::min(roomWidth / plan.length, roomHeight / plan.width);
@@ -336,6 +336,7 @@ void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
         placed.Place(surface, box.x, legendTop + legendHeight + toldHeight + 100, noteLines);
         surface.SetColour(Black);
     }
+    return scale;
 }
 
 std::vector<std::string> PlanSheetTitle(const DesignRecord& record) {
@@ -351,17 +352,24 @@ std::vector<std::string> PlanSheetTitle(const DesignRecord& record) {
 }
 
 void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
-                   const std::vector<std::string>& titleLines, const DrawingBox& sheet) {
+                   const std::vector<std::string>& titleLines, const DrawingBox& sheet,
+                   SheetScale sheetScale) {
     surface.SetColour(Black);
     PlacedTexts placed;
     double y = sheet.y;
+    // The scale of a printed sheet stands at its top right, beside the title.
+    UseDrawingText(surface);
+    const bool scaleShown = sheetScale == SheetScale::Printed && plan.reason.empty();
+    const double scaleRoom =
+        scaleShown ? surface.TextWidth("Plan scale: 1 in = 9,999.99 ft") + 300 : 0;
     for (std::size_t i = 0; i < titleLines.size(); ++i) {
         if (i == 0) {
             UseDrawingTitle(surface);
         } else {
             UseDrawingText(surface);
         }
-        const std::vector<std::string> lines = WrapText(surface, titleLines[i], sheet.width);
+        const std::vector<std::string> lines =
+            WrapText(surface, titleLines[i], sheet.width - scaleRoom);
         placed.Place(surface, sheet.x, y, lines);
         y += BlockHeight(surface, lines);
     }
@@ -373,11 +381,12 @@ void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
     const double headHeight = surface.TextHeight("Bg") + 150;
     const DrawingBox sections{sheet.x, bottom - sectionsHeight + headHeight, sheet.width,
                               sectionsHeight - headHeight};
+    double scale = 0;
     if (plan.sections.empty() || !plan.reason.empty()) {
-        DrawFoundationPlan(surface, plan, {sheet.x, y, sheet.width, bottom - y});
+        scale = DrawFoundationPlan(surface, plan, {sheet.x, y, sheet.width, bottom - y});
     } else if (TypicalSectionsFit(surface, plan, sections)) {
-        DrawFoundationPlan(surface, plan,
-                           {sheet.x, y, sheet.width, bottom - y - sectionsHeight - 200});
+        scale = DrawFoundationPlan(surface, plan,
+                                   {sheet.x, y, sheet.width, bottom - y - sectionsHeight - 200});
         UseDrawingTitle(surface);
         placed.Place(surface, sheet.x, bottom - sectionsHeight, {"TYPICAL SECTIONS (INCHES)"});
         DrawTypicalSections(surface, plan, sections);
@@ -386,8 +395,14 @@ void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
         const std::vector<std::string> note =
             WrapText(surface, "The typical sections need a wider drawing.", sheet.width);
         const double noteHeight = BlockHeight(surface, note);
-        DrawFoundationPlan(surface, plan, {sheet.x, y, sheet.width, bottom - y - noteHeight - 200});
+        scale = DrawFoundationPlan(surface, plan,
+                                   {sheet.x, y, sheet.width, bottom - y - noteHeight - 200});
         UseDrawingText(surface);
         placed.Place(surface, sheet.x, bottom - noteHeight, note);
+    }
+    if (scaleShown && scale > 0) {
+        UseDrawingText(surface);
+        const std::string text = "Plan scale: 1 in = " + PlanNumber(1440 / scale) + " ft";
+        placed.Place(surface, sheet.x + sheet.width - surface.TextWidth(text), sheet.y, {text});
     }
 }

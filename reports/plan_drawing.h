@@ -12,8 +12,9 @@
 // The plan to scale: the slab, the beams filled by type, the slab tendons as thin dashed lines,
 // the overall sizes, the clear gap and the analysis beam spacing of each direction dimensioned,
 // the two directions named, the legend and the notes. A plan that cannot be drawn shows its
-// reason instead.
-void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan, const DrawingBox& box);
+// reason instead. Gives the plan's scale in twips to the foot, 0 when it is not drawn.
+double DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
+                          const DrawingBox& box);
 
 // A section through the slab and one beam of each group that has beams, side by side and all to
 // one scale, dimensioned in inches: slab thickness, beam depth and width, the beam tendon's cover
@@ -25,9 +26,15 @@ void DrawTypicalSections(DrawingSurface& surface, const FoundationPlan& plan,
 // not the sections with their dimensions.
 bool TypicalSectionsFit(DrawingSurface& surface, const FoundationPlan& plan, const DrawingBox& box);
 
-// A whole sheet: its title lines at the top, the plan, and the typical sections below it.
+// Whether a sheet tells the scale of its plan: a sheet that is printed at its size does, a
+// drawing fitted to a window does not.
+enum class SheetScale { NotShown, Printed };
+
+// A whole sheet: its title lines at the top, the plan, and the typical sections below it; with
+// SheetScale::Printed, "Plan scale: 1 in = N ft" at the top right.
 void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
-                   const std::vector<std::string>& titleLines, const DrawingBox& sheet);
+                   const std::vector<std::string>& titleLines, const DrawingBox& sheet,
+                   SheetScale sheetScale = SheetScale::NotShown);
 
 // The title lines of a plan sheet for a project: "FOUNDATION PLAN AND TYPICAL SECTIONS" and the
 // project name with the rectangle's label, when there are any.

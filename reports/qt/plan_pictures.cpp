@@ -25,7 +25,8 @@ void DrawSheet(DrawingSurface& surface, const FoundationPlan& plan,
                const std::vector<std::string>& titleLines) {
     surface.BeginDocument();
     DrawPlanSheet(surface, plan, titleLines,
-                  {Margin, Margin, PlanSheetWidth - 2 * Margin, PlanSheetHeight - 2 * Margin});
+                  {Margin, Margin, PlanSheetWidth - 2 * Margin, PlanSheetHeight - 2 * Margin},
+                  SheetScale::Printed);
     surface.EndDocument();
 }
 

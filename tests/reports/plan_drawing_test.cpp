@@ -1,4 +1,5 @@
 #include "plan/foundation_plan.h"
+#include "plan/plan_legend.h"
 #include "reports/plan_drawing.h"
 #include "reports/recording_surface.h"
 
@@ -157,7 +158,8 @@ TEST(PlanDrawing, NoTextOverlapsAnotherOrALineAtAnySize) {
                     {
                         RecordingSurface surface;
                         surface.BeginDocument();
-                        DrawPlanSheet(surface, plan, PlanSheetTitle(c.record), sheet);
+                        DrawPlanSheet(surface, plan, PlanSheetTitle(c.record), sheet,
+                                      SheetScale::Printed);
                         ExpectClearTexts(
                             surface.sheets().back(),
                             {sheet.x, sheet.y, sheet.x + sheet.width, sheet.y + sheet.height},
@@ -212,7 +214,7 @@ TEST(PlanDrawing, DrawsThePlanToScaleWithItsBeamsTendonsAndTexts) {
     const FoundationPlan plan = PlanOf(c.record, c.results);
     RecordingSurface surface;
     surface.BeginDocument();
-    DrawFoundationPlan(surface, plan, {0, 0, 12000, 9000});
+    const double drawnScale = DrawFoundationPlan(surface, plan, {0, 0, 12000, 9000});
     const RecordedSheet& sheet = surface.sheets().back();
 
     // The slab's heavy outline gives the scale: its sides are as 60 to 40.
@@ -224,6 +226,7 @@ TEST(PlanDrawing, DrawsThePlanToScaleWithItsBeamsTendonsAndTexts) {
     const double planHeight = std::abs(outline[1].y2 - outline[1].y1);
     EXPECT_NEAR(planWidth / planHeight, 1.5, 1e-9);
     const double scale = planWidth / 60;
+    EXPECT_NEAR(drawnScale, scale, 1e-9);
     const double left = std::min(outline[0].x1, outline[0].x2);
 
     // Beams: three short ones the plan's height tall, two long ones its width wide; the type 2
@@ -285,6 +288,35 @@ TEST(PlanDrawing, ANarrowBoxTellsTheDimensionsAcrossTheWidthInALine) {
     // Four sections with their dimensions need more than 4500 twips.
     EXPECT_FALSE(TypicalSectionsFit(surface, plan, {0, 0, 4500, 3000}));
     EXPECT_TRUE(TypicalSectionsFit(surface, plan, {0, 0, 14000, 4500}));
+}
+
+TEST(PlanDrawing, APrintedSheetTellsTheScaleOfItsPlan) {
+    const Case c = MakeCase(40, 60, 3, 3, 10);
+    const FoundationPlan plan = PlanOf(c.record, c.results);
+    RecordingSurface surface;
+    surface.BeginDocument();
+    DrawPlanSheet(surface, plan, {"TITLE"}, {720, 720, 14400, 10800}, SheetScale::Printed);
+    const RecordedSheet& sheet = surface.sheets().back();
+    double planWidth = 0;
+    for (const RecordedLine& line : sheet.lines) {
+        if (line.width == OutlineWidth && line.y1 == line.y2) {
+            planWidth = std::abs(line.x2 - line.x1);
+        }
+    }
+    ASSERT_GT(planWidth, 0);
+    // 60 ft over the plan's width in inches of the sheet.
+    const std::string expected =
+        "Plan scale: 1 in = " + PlanNumber(60 / (planWidth / 1440)) + " ft";
+    const auto found = std::find_if(sheet.texts.begin(), sheet.texts.end(),
+                                    [&](const RecordedText& t) { return t.text == expected; });
+    ASSERT_NE(found, sheet.texts.end()) << expected;
+    EXPECT_DOUBLE_EQ(found->x + static_cast<double>(expected.size()) * 80, 720 + 14400);
+    RecordingSurface window;
+    window.BeginDocument();
+    DrawPlanSheet(window, plan, {"TITLE"}, {0, 0, 14400, 10800});
+    for (const RecordedText& text : window.sheets().back().texts) {
+        EXPECT_EQ(text.text.find("scale"), std::string::npos);
+    }
 }
 
 TEST(PlanDrawing, APlanThatCannotBeDrawnShowsWhy) {
