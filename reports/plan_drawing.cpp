@@ -137,10 +137,28 @@ void DrawReason(DrawingSurface& surface, const std::string& reason, const Drawin
     placed.Place(surface, box.x, box.y, WrapText(surface, reason, box.width));
 }
 
+// The first engineer's scale, in feet to the inch, at which a plan needing `feetPerInch` fits:
+// 1, 2, 3, 4, 5, 6, 8 and their tens, with 15 beside 10 and 20.
+double EngineersFeetPerInch(double feetPerInch) {
+    const double steps[] = {1, 1.5, 2, 3, 4, 5, 6, 8};
+    double decade = 1;
+    while (decade * 10 < feetPerInch && decade < 1e12) {
+        decade *= 10;
+    }
+    for (double candidate = decade / 10; candidate < decade * 100; candidate *= 10) {
+        for (const double step : steps) {
+            if (step * candidate >= feetPerInch) {
+                return step * candidate;
+            }
+        }
+    }
+    return feetPerInch;
+}
+
 } // namespace
 
 double DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
-                          const DrawingBox& box) {
+                          const DrawingBox& box, PlanFit fit) {
     surface.SetColour(Black);
     surface.SetLineWidth(DimensionLineWidth);
     surface.SetLineStyle(LineStyle::Solid);
@@ -210,7 +228,10 @@ double DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
         return 0;
     }
     // Feet to twips, the same both ways.
-    const double scale = std::min(roomWidth / plan.length, roomHeight / plan.width);
+    double scale = std::min(roomWidth / plan.length, roomHeight / plan.width);
+    if (fit == PlanFit::EngineersScale) {
+        scale = 1440 / EngineersFeetPerInch(1440 / scale);
+    }
     const double planWidth = plan.length * scale;
     const double planHeight = plan.width * scale;
     const double left = box.x + (box.width - leftWidth - planWidth - rightWidth) / 2 + leftWidth;
@@ -360,6 +381,7 @@ void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
     // The scale of a printed sheet stands at its top right, beside the title.
     UseDrawingText(surface);
     const bool scaleShown = sheetScale == SheetScale::Printed && plan.reason.empty();
+    const PlanFit fit = scaleShown ? PlanFit::EngineersScale : PlanFit::Exact;
     const double scaleRoom =
         scaleShown ? surface.TextWidth("Plan scale: 1 in = 9,999.99 ft") + 300 : 0;
     for (std::size_t i = 0; i < titleLines.size(); ++i) {
@@ -383,10 +405,10 @@ void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
                               sectionsHeight - headHeight};
     double scale = 0;
     if (plan.sections.empty() || !plan.reason.empty()) {
-        scale = DrawFoundationPlan(surface, plan, {sheet.x, y, sheet.width, bottom - y});
+        scale = DrawFoundationPlan(surface, plan, {sheet.x, y, sheet.width, bottom - y}, fit);
     } else if (TypicalSectionsFit(surface, plan, sections)) {
-        scale = DrawFoundationPlan(surface, plan,
-                                   {sheet.x, y, sheet.width, bottom - y - sectionsHeight - 200});
+        scale = DrawFoundationPlan(
+            surface, plan, {sheet.x, y, sheet.width, bottom - y - sectionsHeight - 200}, fit);
         UseDrawingTitle(surface);
         placed.Place(surface, sheet.x, bottom - sectionsHeight, {"TYPICAL SECTIONS (INCHES)"});
         DrawTypicalSections(surface, plan, sections);
@@ -396,7 +418,7 @@ void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
             WrapText(surface, "The typical sections need a wider drawing.", sheet.width);
         const double noteHeight = BlockHeight(surface, note);
         scale = DrawFoundationPlan(surface, plan,
-                                   {sheet.x, y, sheet.width, bottom - y - noteHeight - 200});
+                                   {sheet.x, y, sheet.width, bottom - y - noteHeight - 200}, fit);
         UseDrawingText(surface);
         placed.Place(surface, sheet.x, bottom - noteHeight, note);
     }

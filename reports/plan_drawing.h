@@ -12,9 +12,12 @@
 // The plan to scale: the slab, the beams filled by type, the slab tendons as thin dashed lines,
 // the overall sizes, the clear gap and the analysis beam spacing of each direction dimensioned,
 // the two directions named, the legend and the notes. A plan that cannot be drawn shows its
-// reason instead. Gives the plan's scale in twips to the foot, 0 when it is not drawn.
+// reason instead. Gives the plan's scale in twips to the foot, 0 when it is not drawn. A plan
+// for paper is drawn at the engineer's scale (1 in = 10, 15, 20, 30, 40 ... ft) next below the
+// largest that fits.
+enum class PlanFit { Exact, EngineersScale };
 double DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
-                          const DrawingBox& box);
+                          const DrawingBox& box, PlanFit fit = PlanFit::Exact);
 
 // A section through the slab and one beam of each group that has beams, side by side and all to
 // one scale, dimensioned in inches: slab thickness, beam depth and width, the beam tendon's cover
@@ -31,7 +34,8 @@ bool TypicalSectionsFit(DrawingSurface& surface, const FoundationPlan& plan, con
 enum class SheetScale { NotShown, Printed };
 
 // A whole sheet: its title lines at the top, the plan, and the typical sections below it; with
-// SheetScale::Printed, "Plan scale: 1 in = N ft" at the top right.
+// SheetScale::Printed, the plan at an engineer's scale and "Plan scale: 1 in = N ft" at the top
+// right.
 void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
                    const std::vector<std::string>& titleLines, const DrawingBox& sheet,
                    SheetScale sheetScale = SheetScale::NotShown);

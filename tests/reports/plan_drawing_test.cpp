@@ -304,7 +304,13 @@ TEST(PlanDrawing, APrintedSheetTellsTheScaleOfItsPlan) {
         }
     }
     ASSERT_GT(planWidth, 0);
-    // 60 ft over the plan's width in inches of the sheet.
+    // 60 ft over the plan's width in inches of the sheet, at one of the engineer's scales.
+    const double feetPerInch = 60 / (planWidth / 1440);
+    const std::vector<double> engineers{5, 6, 8, 10, 15, 20, 30, 40, 50, 60, 80};
+    EXPECT_NE(std::find_if(engineers.begin(), engineers.end(),
+                           [&](double f) { return std::abs(f - feetPerInch) < 1e-9; }),
+              engineers.end())
+        << feetPerInch;
     const std::string expected =
         "Plan scale: 1 in = " + PlanNumber(60 / (planWidth / 1440)) + " ft";
     const auto found = std::find_if(sheet.texts.begin(), sheet.texts.end(),
