@@ -7,6 +7,7 @@
 #include "app/results_view.h"
 #include "input/live_plan.h"
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "shell/lifecycle/analysis_reset.h"
 #include "shell/lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"

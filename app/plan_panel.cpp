@@ -1,6 +1,7 @@
 #include "app/plan_panel.h"
 
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/qt/painter_surface.h"
 
 #include <QPainter>

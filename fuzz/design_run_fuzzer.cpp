@@ -10,6 +10,7 @@
 #include "output/results_screen.h"
 #include "plan/foundation_plan.h"
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/print_dialog.h"
 #include "reports/recording_surface.h"
 #include "reports/report_run.h"

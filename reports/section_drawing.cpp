@@ -1,3 +1,5 @@
+#include "reports/section_drawing.h"
+
 #include "reports/plan_drawing.h"
 
 #include "plan/plan_legend.h"

@@ -1,6 +1,7 @@
 #include "reports/qt/plan_pictures.h"
 
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/qt/painter_surface.h"
 #include "storage/file_error.h"
 

@@ -1,6 +1,7 @@
 #include "plan/foundation_plan.h"
 #include "plan/plan_legend.h"
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/recording_surface.h"
 
 #include <gtest/gtest.h>
