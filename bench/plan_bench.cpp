@@ -33,8 +33,8 @@ struct ExampleScreen {
     InputScreen screen = LoadInputScreen();
 
     ExampleScreen() {
-        ReadDesignFile(std::string(K3_SOURCE_DIR) + "/examples/expansive_ribbed.kvt",
-                       AllSections, record, defaults, nullptr);
+        ReadDesignFile(std::string(K3_SOURCE_DIR) + "/examples/expansive_ribbed.kvt", AllSections,
+                       record, defaults, nullptr);
         InputContext context{record, defaults, project, dialogs, clock};
         WriteInputRecord(screen, context, 10);
     }
