@@ -5,7 +5,7 @@
 #   make bench  time the analysis, the project files and the design search
 #   make golden write the golden files of the command line's output anew, after a deliberate
 #               change (git diff then shows what changed)
-#   make screenshots  pictures of the desktop program's windows in build/screenshots/
+#   make screenshots  pictures of the desktop program's windows in build/screenshots/, and plans
 #   make fuzz   the libFuzzer targets in build-fuzz/ (make test runs each briefly)
 #   make fuzz-long    each target for FUZZ_RUNS executions (10 million) under LeakSanitizer
 #   make install      install the programs, desktop entry, file type, icon and examples
@@ -121,8 +121,8 @@ golden: build
 bench: build
 	build/bin/korvath3-bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
-# Pictures of the desktop program's windows for each example, drawn without a display, and a
-# report page with header texts of the longest length.
+# Pictures of the desktop program's windows for each example, drawn without a display, a report
+# page with header texts of the longest length, and the plan drawing of each as PNG, SVG and PDF.
 screenshots: build
 	@for project in $(EXAMPLES); do \
 	  name=$$(basename "$$project" .kvt); \
@@ -131,6 +131,9 @@ screenshots: build
 	  pdftoppm -png -r 110 -singlefile "build/screenshots/$$name/report-long-header.pdf" \
 	    "build/screenshots/$$name/report-long-header" || exit $$?; \
 	  echo "build/screenshots/$$name/report-long-header.png"; \
+	  for kind in png svg pdf; do \
+	    $(CLI) sketch "$$project" -o "build/screenshots/$$name/plan.$$kind" || exit $$?; \
+	  done; \
 	done
 
 install: build

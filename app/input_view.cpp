@@ -1,6 +1,7 @@
 #include "app/input_view.h"
 
 #include "app/input_layout.h"
+#include "app/plan_panel.h"
 #include "app/styled_text_html.h"
 #include "app/visible_focus.h"
 #include "input/input_events.h"
@@ -16,6 +17,14 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+namespace {
+
+// The pages whose fields the plan beside them draws, numbered from 1.
+constexpr int SlabPage = 3;
+constexpr int BeamPage = 4;
+
+} // namespace
 
 InputView::InputView(Program& program, ShellServices& services, std::function<void()> changed,
                      QWidget* parent)
@@ -110,9 +119,22 @@ InputView::InputView(Program& program, ShellServices& services, std::function<vo
         scroll->setFrameShape(QFrame::NoFrame);
         auto* host = new QWidget(scroll);
         host->setObjectName(QString::fromStdString(PageFrame(page)));
+        // The slab and beam pages keep their fields at the left and the plan beside them.
+        const bool withPlan = page == SlabPage || page == BeamPage;
+        QWidget* fields = host;
+        if (withPlan) {
+            fields = new QWidget(host);
+            auto* beside = new QHBoxLayout(host);
+            beside->setContentsMargins(0, 0, 0, 0);
+            beside->addWidget(fields, 0, Qt::AlignTop);
+            auto* panel = new PlanPanel(host);
+            panel->setObjectName(QString("picPlan(%1)").arg(page));
+            beside->addWidget(panel, 1);
+            m_planPanels.push_back(panel);
+        }
         for (const ContainerLayout& layout : InputPageLayouts()) {
             if (layout.container == PageFrame(page)) {
-                BuildContainer(layout, InputPageLayouts(), form, noCaptions, *m_widgets, host);
+                BuildContainer(layout, InputPageLayouts(), form, noCaptions, *m_widgets, fields);
             }
         }
         scroll->setWidget(host);
@@ -177,5 +199,9 @@ void InputView::Refresh() {
     m_save->setToolTip(QString::fromStdString(form["tlbInput(2)"].toolTip));
     m_widgets->Refresh(form);
     m_info->setHtml(StyledTextHtml(m_program.input.moreInfo));
+    UpdateLivePlan(m_livePlan, form, m_program.record);
+    for (PlanPanel* panel : m_planPanels) {
+        panel->Show(m_livePlan.drawing, m_livePlan.drawn, m_livePlan.reason);
+    }
     m_refreshing = false;
 }

@@ -3,16 +3,21 @@
 #include "app/checks_dock.h"
 #include "app/input_view.h"
 #include "app/options_view.h"
+#include "app/plan_panel.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
 #include "app/toolbar_icons.h"
 #include "app/verdict_strip_view.h"
+#include "input/live_plan.h"
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/project_lifecycle.h"
+#include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "shell/recent_files.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -60,6 +65,13 @@ MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTar
     centralLayout->addWidget(m_strip);
     centralLayout->addWidget(m_stack);
     setCentralWidget(central);
+    m_planDock = new QDockWidget("Plan", this);
+    m_planDock->setObjectName("dockPlan");
+    m_plan = new PlanPanel(m_planDock);
+    m_plan->setObjectName("picPlan(0)");
+    m_planDock->setWidget(m_plan);
+    addDockWidget(Qt::RightDockWidgetArea, m_planDock);
+    m_planDock->hide();
     m_options = new OptionsView(m_program, m_services, m_association, this);
     m_print = new PrintView(
         m_program, m_services, [this] { m_options->Open(0); }, this);
@@ -156,6 +168,18 @@ void MainWindow::BuildMenus() {
     });
     connect(AddAction(screen, "mnuOutput", "&Output"), &QAction::triggered, this, [this] {
         ShowOutputScreen(m_program);
+        Refresh();
+    });
+    // The plan of the analysed design in a panel beside the results; hidden until asked for.
+    QAction* plan = m_planDock->toggleViewAction();
+    plan->setText("&Plan");
+    plan->setObjectName("mnuPlan");
+    screen->addAction(plan);
+    m_actions["mnuPlan"] = plan;
+    connect(plan, &QAction::toggled, this, [this](bool shown) {
+        if (shown) {
+            resizeDocks({m_planDock}, {width() / 2}, Qt::Horizontal);
+        }
         Refresh();
     });
     QAction* analysis = AddAction(screen, "mnuAnalysis", "&Analysis");
@@ -284,6 +308,11 @@ void MainWindow::Refresh() {
     m_actions["mnuRUSeparator"]->setVisible(RecentFilesSeparatorVisible(m_program.settings));
 
     RefreshChecks();
+    if (m_actions["mnuPlan"]->isChecked()) {
+        const bool analysed = MenuEnabled(project, "mnuOutput");
+        const FoundationPlan plan = AnalysedPlan(m_program.record, m_program.results, analysed);
+        m_plan->Show(plan, plan.reason.empty(), plan.reason, PlanSheetTitle(m_program.record));
+    }
     if (m_program.output.visible) {
         m_results->Refresh();
         m_stack->setCurrentWidget(m_results);

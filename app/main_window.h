@@ -17,7 +17,9 @@ class QLabel;
 class QTimer;
 class VerdictStripView;
 class OptionsView;
+class PlanPanel;
 class PrintView;
+class QDockWidget;
 class QAction;
 class QStackedWidget;
 class QToolButton;
@@ -46,6 +48,7 @@ class MainWindow : public QMainWindow {
     OptionsView* optionsView() const { return m_options; }
     PrintView* printView() const { return m_print; }
     ChecksDock* checksDock() const { return m_checksDock; }
+    QDockWidget* planDock() const { return m_planDock; }
 
     // The Analysis command (F5): the results screen, the verdict strip and the Checks panel
     // from the values on the input pages.
@@ -71,6 +74,9 @@ class MainWindow : public QMainWindow {
     ResultsView* m_results;
     OptionsView* m_options;
     PrintView* m_print;
+    // The plan of the analysed design, beside the results.
+    QDockWidget* m_planDock;
+    PlanPanel* m_plan;
     bool m_ending = false;
 
     // The check table of the last analysis and its views; the verdict of the values as typed.

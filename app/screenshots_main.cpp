@@ -92,6 +92,14 @@ int main(int argc, char** argv) {
                 Save(&window, folder + QString("/results-%1-%2.png").arg(tab + 1).arg(page + 1));
             }
         }
+        // The plan of the analysed design beside the results.
+        main->setCurrentIndex(0);
+        window.Action("mnuPlan")->trigger();
+        window.Refresh();
+        QApplication::processEvents();
+        Save(&window, folder + "/results-plan.png");
+        window.Action("mnuPlan")->trigger();
+        window.Refresh();
     }
     if (program.project.printEnabled) {
         PrintView* print = window.printView();

@@ -6,6 +6,7 @@
 #include "engine/analysis_run.h"
 #include "engine/project_analysis.h"
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/qt/plan_pictures.h"
 #include "storage/file_error.h"
 

@@ -1,12 +1,16 @@
 // Turns bytes into a design record and runs everything an analysis runs: the value checks, the
 // engine, the compliance and exception lists, the results screen, the check table and the entire
 // report on the recording surface. Each record must end in an input error, an engine fault, or
-// results that are all finite and a report whose every sheet is drawn.
+// results that are all finite and a report whose every sheet is drawn, and a plan drawn at
+// finite places.
 
 #include "compliance/design_checks.h"
 #include "engine/tendon_size.h"
 #include "input/record_values.h"
 #include "output/results_run.h"
+#include "plan/foundation_plan.h"
+#include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/print_dialog.h"
 #include "reports/recording_surface.h"
 #include "reports/report_run.h"
@@ -140,6 +144,30 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             if (text.text.find("Infinity") != std::string::npos ||
                 text.text.find("NaN") != std::string::npos) {
                 Fail("a report text holds a number that is not finite");
+            }
+        }
+    }
+    // The plan of the analysed design, drawn on a sheet: every place on it a number.
+    RecordingSurface planSheet;
+    planSheet.BeginDocument();
+    DrawPlanSheet(planSheet, PlanOf(record, results), PlanSheetTitle(record),
+                  {720, 720, 14400, 10800}, SheetScale::Printed);
+    for (const RecordedSheet& sheet : planSheet.sheets()) {
+        for (const RecordedText& text : sheet.texts) {
+            if (!std::isfinite(text.x) || !std::isfinite(text.y)) {
+                Fail("a text of the plan stands at a place that is not finite");
+            }
+        }
+        for (const RecordedLine& line : sheet.lines) {
+            if (!std::isfinite(line.x1) || !std::isfinite(line.y1) || !std::isfinite(line.x2) ||
+                !std::isfinite(line.y2)) {
+                Fail("a line of the plan has an end that is not finite");
+            }
+        }
+        for (const RecordedRectangle& area : sheet.rectangles) {
+            if (!std::isfinite(area.x) || !std::isfinite(area.y) || !std::isfinite(area.width) ||
+                !std::isfinite(area.height)) {
+                Fail("a filled area of the plan is not finite");
             }
         }
     }

@@ -1,8 +1,13 @@
 #include "input/live_plan.h"
 
+#include "common/run_time_error.h"
 #include "engine/analysis_spacing.h"
+#include "engine/checked_math.h"
+#include "engine/project_analysis.h"
 #include "engine/tendon_size.h"
 #include "engine/tendon_tallies.h"
+#include "input/input_record.h"
+#include "input/record_values.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -183,9 +188,34 @@ void ReadTendonSize(const FormModel& form, DesignRecord& typed) {
     }
     try {
         ApplyTendonSize(typed);
-    } catch (const std::exception&) {
+    } catch (const ArithmeticFault&) {
         typed.TendDiam = 0;
     }
+}
+
+// Slab tendons given as a stress or a force are counted by an analysis of the whole screen as it
+// stands, when every page's values let one run; gives whether they were.
+bool AnalysedSlabTendons(const FormModel& form, const DesignRecord& record,
+                         ResultsRecord& results) {
+    DesignRecord screen = record;
+    screen.NoDataFlag = 0;
+    try {
+        ReadInputRecord(form, screen, 10);
+    } catch (const RunTimeError&) {
+        return false;
+    }
+    if (FindReadyRecordValueFault(screen)) {
+        return false;
+    }
+    ResultsRecord analysed;
+    if (AnalyseProject(EngineSettings{}, screen, analysed).faultKind) {
+        return false;
+    }
+    results.SlabTenShort = analysed.SlabTenShort;
+    results.SlabTenLong = analysed.SlabTenLong;
+    results.SlabTenSpacingShort = analysed.SlabTenSpacingShort;
+    results.SlabTenSpacingLong = analysed.SlabTenSpacingLong;
+    return true;
 }
 
 } // namespace
@@ -207,7 +237,7 @@ FoundationPlan PlanOfTypedValues(const FormModel& form, const DesignRecord& reco
     // A spacing the analysis could not work out (a minimum of 0) is left undimensioned.
     try {
         ComputeAnalysisSpacing(typed, results);
-    } catch (const std::exception&) {
+    } catch (const ArithmeticFault&) {
         results.SpacingShort = 0;
         results.SpacingLong = 0;
     }
@@ -217,7 +247,7 @@ FoundationPlan PlanOfTypedValues(const FormModel& form, const DesignRecord& reco
         results.SlabTenLong = std::max<double>(typed.NumSlabTenLong, 0);
         try {
             ComputeTendonTallies(typed, results);
-        } catch (const std::exception&) {
+        } catch (const ArithmeticFault&) {
             results.SlabTenSpacingShort = 0;
             results.SlabTenSpacingLong = 0;
         }
@@ -226,8 +256,9 @@ FoundationPlan PlanOfTypedValues(const FormModel& form, const DesignRecord& reco
         typed.SlabTenCovType == 1 ? typed.TendDiam / 2 + typed.SlabTenCov : typed.SlabThick / 2;
     results.CgSlabTenShort = slabTendonDepth;
     results.CgSlabTenLong = slabTendonDepth;
+    const bool counted = countGiven || AnalysedSlabTendons(form, record, results);
     FoundationPlan plan = PlanOf(typed, results);
-    if (!countGiven) {
+    if (!counted) {
         for (PlanSlabTendons* tendons : {&plan.slabTendonsShort, &plan.slabTendonsLong}) {
             *tendons = PlanSlabTendons{};
             tendons->known = false;

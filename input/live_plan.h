@@ -13,7 +13,8 @@
 // The plan of the values on the input screen as they stand, over `record` for what the screen
 // does not hold. The analysis beam spacings and, when the slab tendons are given as a count, the
 // slab tendons are worked out as the analysis would; slab tendons given as a stress or a force
-// are not known before the analysis. A value that is blank or no number gives no plan: its
+// are counted by an analysis of the whole screen, and stay unknown while a value on another page
+// keeps it from running. A value of the plan that is blank or no number gives no plan: its
 // reason names the field by its caption.
 FoundationPlan PlanOfTypedValues(const FormModel& form, const DesignRecord& record);
 

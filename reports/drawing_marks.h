@@ -28,7 +28,8 @@ class PlacedTexts {
     // Draws the lines of a block of text, one under the other, from its top left corner, and
     // keeps its box.
     void Place(DrawingSurface& surface, double x, double y, const std::vector<std::string>& lines);
-    // Whether the straight line from one point to the other passes through a placed text.
+    // Whether the straight line from one point to the other passes through or close by a placed
+    // text.
     bool Crosses(double x1, double y1, double x2, double y2) const;
 
   private:

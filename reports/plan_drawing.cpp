@@ -48,8 +48,10 @@ std::vector<PlanDimension> DimensionsOf(const FoundationPlan& plan, PlanDirectio
         dimensions.push_back({beams[0]->to, beams[1]->from, text(PlanFeet(gap), "clear")});
         if (spacing > 0) {
             const double start = (beams[0]->from + beams[0]->to) / 2;
-            dimensions.push_back({start, std::min(start + spacing, side),
-                                  text(PlanFeet(spacing), "analysis spacing")});
+            dimensions.push_back(
+                {start, std::min(start + spacing, side),
+                 twoLines ? std::vector<std::string>{PlanFeet(spacing), "analysis", "spacing"}
+                          : text(PlanFeet(spacing), "analysis spacing")});
         }
     }
     dimensions.push_back({0, side, {PlanFeet(side)}});
@@ -62,9 +64,15 @@ double ColumnWidth(DrawingSurface& surface, const PlanDimension& dimension) {
     return BlockWidth(surface, dimension.text) + LineToText + TickRoom;
 }
 
+// A legend entry with its text in lines, wrapped when the box is narrow.
+struct LegendRow {
+    LegendSwatch swatch;
+    std::vector<std::string> lines;
+};
+
 struct LegendLayout {
-    std::vector<LegendEntry> beams;
-    std::vector<LegendEntry> tendons;
+    std::vector<LegendRow> beams;
+    std::vector<LegendRow> tendons;
     bool twoColumns = false;
     double beamColumn = 0;
     double tendonColumn = 0;
@@ -73,26 +81,38 @@ struct LegendLayout {
 
 LegendLayout ArrangeLegend(DrawingSurface& surface, const FoundationPlan& plan, double width) {
     LegendLayout legend;
-    for (const LegendEntry& entry : PlanLegend(plan)) {
-        (entry.swatch == LegendSwatch::SlabTendon ? legend.tendons : legend.beams).push_back(entry);
+    const std::vector<LegendEntry> entries = PlanLegend(plan);
+    double beamWidest = 0;
+    double tendonWidest = 0;
+    for (const LegendEntry& entry : entries) {
+        double& widest = entry.swatch == LegendSwatch::SlabTendon ? tendonWidest : beamWidest;
+        widest = std::max(widest, surface.TextWidth(entry.text));
     }
-    const auto columnWidth = [&surface](const std::vector<LegendEntry>& entries) {
-        double widest = 0;
-        for (const LegendEntry& entry : entries) {
-            widest = std::max(widest, surface.TextWidth(entry.text));
-        }
-        return SwatchWidth + 100 + widest;
-    };
-    legend.beamColumn = columnWidth(legend.beams);
-    legend.tendonColumn = columnWidth(legend.tendons);
+    legend.beamColumn = SwatchWidth + 100 + beamWidest;
+    legend.tendonColumn = SwatchWidth + 100 + tendonWidest;
     legend.twoColumns = legend.beamColumn + 300 + legend.tendonColumn <= width;
-    legend.rows = legend.twoColumns ? std::max(legend.beams.size(), legend.tendons.size())
-                                    : legend.beams.size() + legend.tendons.size();
+    // In one column an entry wider than the box goes on in further lines.
+    const double textWidth = width - SwatchWidth - 100;
+    for (const LegendEntry& entry : entries) {
+        LegendRow row{entry.swatch, legend.twoColumns ? std::vector<std::string>{entry.text}
+                                                      : WrapText(surface, entry.text, textWidth)};
+        if (!legend.twoColumns) {
+            legend.rows += row.lines.size();
+        }
+        (entry.swatch == LegendSwatch::SlabTendon ? legend.tendons : legend.beams)
+            .push_back(std::move(row));
+    }
+    if (legend.twoColumns) {
+        legend.rows = std::max(legend.beams.size(), legend.tendons.size());
+    } else {
+        legend.beamColumn = std::min(legend.beamColumn, width);
+        legend.tendonColumn = std::min(legend.tendonColumn, width);
+    }
     return legend;
 }
 
-void DrawLegendEntry(DrawingSurface& surface, PlacedTexts& placed, const LegendEntry& entry,
-                     double x, double y) {
+void DrawLegendEntry(DrawingSurface& surface, PlacedTexts& placed, const LegendRow& entry, double x,
+                     double y) {
     const double lineHeight = surface.TextHeight("Bg");
     if (entry.swatch == LegendSwatch::SlabTendon) {
         surface.SetColour(TendonColour);
@@ -107,7 +127,7 @@ void DrawLegendEntry(DrawingSurface& surface, PlacedTexts& placed, const LegendE
                               entry.swatch == LegendSwatch::Type1Beam ? Type1BeamFill
                                                                       : Type2BeamFill);
     }
-    placed.Place(surface, x + SwatchWidth + 100, y, {entry.text});
+    placed.Place(surface, x + SwatchWidth + 100, y, entry.lines);
 }
 
 void DrawReason(DrawingSurface& surface, const std::string& reason, const DrawingBox& box) {
@@ -117,40 +137,80 @@ void DrawReason(DrawingSurface& surface, const std::string& reason, const Drawin
     placed.Place(surface, box.x, box.y, WrapText(surface, reason, box.width));
 }
 
+// The first engineer's scale, in feet to the inch, at which a plan needing `feetPerInch` fits:
+// 1, 2, 3, 4, 5, 6, 8 and their tens, with 15 beside 10 and 20.
+double EngineersFeetPerInch(double feetPerInch) {
+    const double steps[] = {1, 1.5, 2, 3, 4, 5, 6, 8};
+    double decade = 1;
+    while (decade * 10 < feetPerInch && decade < 1e12) {
+        decade *= 10;
+    }
+    for (double candidate = decade / 10; candidate < decade * 100; candidate *= 10) {
+        for (const double step : steps) {
+            if (step * candidate >= feetPerInch) {
+                return step * candidate;
+            }
+        }
+    }
+    return feetPerInch;
+}
+
 } // namespace
 
-void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
-                        const DrawingBox& box) {
+double DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
+                          const DrawingBox& box, PlanFit fit) {
     surface.SetColour(Black);
     surface.SetLineWidth(DimensionLineWidth);
     surface.SetLineStyle(LineStyle::Solid);
     if (!plan.reason.empty()) {
         DrawReason(surface, plan.reason, box);
-        return;
+        return 0;
     }
 
     UseDrawingTitle(surface);
     const double titleHeight = surface.TextHeight("Bg");
-    const std::string shortLabel = "SHORT DIRECTION";
+    const std::vector<std::string> shortLabel{"SHORT", "DIRECTION"};
     const std::string longLabel = "LONG DIRECTION";
-    const double shortLabelWidth = surface.TextWidth(shortLabel);
+    const double shortLabelWidth = BlockWidth(surface, shortLabel);
+    const double shortLabelHeight = BlockHeight(surface, shortLabel);
     const double longLabelWidth = surface.TextWidth(longLabel);
     UseDrawingText(surface);
     const double lineHeight = surface.TextHeight("Bg");
 
     const std::vector<PlanDimension> alongLength = DimensionsOf(plan, PlanDirection::Short, false);
-    const std::vector<PlanDimension> alongWidth = DimensionsOf(plan, PlanDirection::Long, true);
-    double leftWidth = PlanToDimension;
-    for (const PlanDimension& dimension : alongWidth) {
-        leftWidth += ColumnWidth(surface, dimension);
-    }
+    std::vector<PlanDimension> alongWidth = DimensionsOf(plan, PlanDirection::Long, true);
+    const auto widthOfColumns = [&surface](const std::vector<PlanDimension>& dimensions) {
+        double width = PlanToDimension;
+        for (const PlanDimension& dimension : dimensions) {
+            width += ColumnWidth(surface, dimension);
+        }
+        return width;
+    };
     const double rightWidth = 250 + 100 + shortLabelWidth + 60;
+    // In a narrow box the gap and the spacing across the width are told in a line under the
+    // legend, so that the plan keeps at least half the box's width.
+    std::vector<std::string> toldLines;
+    if (alongWidth.size() > 1 &&
+        box.width - widthOfColumns(alongWidth) - rightWidth < box.width / 2) {
+        std::string told = "Long direction beams:";
+        for (std::size_t i = 0; i + 1 < alongWidth.size(); ++i) {
+            told += i == 0 ? " " : ", ";
+            for (std::size_t line = 0; line < alongWidth[i].text.size(); ++line) {
+                told += (line == 0 ? "" : " ") + alongWidth[i].text[line];
+            }
+        }
+        toldLines = WrapText(surface, told, box.width);
+        alongWidth.erase(alongWidth.begin(), alongWidth.end() - 1);
+    }
+    const double leftWidth = widthOfColumns(alongWidth);
     const double topBand = 150 + 60 + titleHeight + 60;
     const double tierStep = 50 + lineHeight + 110;
     const double bottomBand =
         PlanToDimension + static_cast<double>(alongLength.size()) * tierStep + 40;
     const LegendLayout legend = ArrangeLegend(surface, plan, box.width);
     const double legendHeight = static_cast<double>(legend.rows) * (lineHeight + 50);
+    const double toldHeight =
+        toldLines.empty() ? 0 : static_cast<double>(toldLines.size()) * lineHeight + 50;
     std::vector<std::string> noteLines;
     for (const std::string& note : plan.notes) {
         for (const std::string& line : WrapText(surface, note, box.width)) {
@@ -161,13 +221,17 @@ void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
         noteLines.empty() ? 0 : 100 + static_cast<double>(noteLines.size()) * lineHeight;
 
     const double roomWidth = box.width - leftWidth - rightWidth;
-    const double roomHeight = box.height - topBand - bottomBand - legendHeight - notesHeight;
+    const double roomHeight =
+        box.height - topBand - bottomBand - legendHeight - toldHeight - notesHeight;
     if (roomWidth <= 0 || roomHeight <= 0) {
         DrawReason(surface, "The box is too small for the plan.", box);
-        return;
+        return 0;
     }
     // Feet to twips, the same both ways.
-    const double scale = std::min(roomWidth / plan.length, roomHeight / plan.width);
+    double scale = std::min(roomWidth / plan.length, roomHeight / plan.width);
+    if (fit == PlanFit::EngineersScale) {
+        scale = 1440 / EngineersFeetPerInch(1440 / scale);
+    }
     const double planWidth = plan.length * scale;
     const double planHeight = plan.width * scale;
     const double left = box.x + (box.width - leftWidth - planWidth - rightWidth) / 2 + leftWidth;
@@ -245,8 +309,8 @@ void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
     placed.Place(surface, longX, arrowLevel - 60 - titleHeight, {longLabel});
     const double arrowPlace = right + 250;
     DrawDoubleArrow(surface, arrowPlace, top, arrowPlace, bottom);
-    const double shortY = std::max(top, top + planHeight / 2 - titleHeight / 2);
-    placed.Place(surface, arrowPlace + 100, shortY, {shortLabel});
+    const double shortY = std::max(top, top + planHeight / 2 - shortLabelHeight / 2);
+    placed.Place(surface, arrowPlace + 100, shortY, shortLabel);
     UseDrawingText(surface);
 
     // The extension lines from the plan to its dimensions, where they pass clear of the texts.
@@ -270,62 +334,28 @@ void DrawFoundationPlan(DrawingSurface& surface, const FoundationPlan& plan,
         std::max(box.x, std::min(left - leftWidth, box.x + box.width - legendWidth));
     const double legendTop = level + 40;
     const double rowStep = lineHeight + 50;
-    for (std::size_t i = 0; i < legend.beams.size(); ++i) {
-        DrawLegendEntry(surface, placed, legend.beams[i], legendLeft,
-                        legendTop + static_cast<double>(i) * rowStep);
-    }
-    for (std::size_t i = 0; i < legend.tendons.size(); ++i) {
-        const double x = legend.twoColumns ? legendLeft + legend.beamColumn + 300 : legendLeft;
-        const std::size_t row = legend.twoColumns ? i : legend.beams.size() + i;
-        DrawLegendEntry(surface, placed, legend.tendons[i], x,
+    // Two columns side by side, or one after the other with each entry in its lines.
+    std::size_t row = 0;
+    for (const LegendRow& entry : legend.beams) {
+        DrawLegendEntry(surface, placed, entry, legendLeft,
                         legendTop + static_cast<double>(row) * rowStep);
+        row += legend.twoColumns ? 1 : entry.lines.size();
+    }
+    if (legend.twoColumns) {
+        row = 0;
+    }
+    for (const LegendRow& entry : legend.tendons) {
+        const double x = legend.twoColumns ? legendLeft + legend.beamColumn + 300 : legendLeft;
+        DrawLegendEntry(surface, placed, entry, x, legendTop + static_cast<double>(row) * rowStep);
+        row += legend.twoColumns ? 1 : entry.lines.size();
+    }
+    if (!toldLines.empty()) {
+        placed.Place(surface, box.x, legendTop + legendHeight, toldLines);
     }
     if (!noteLines.empty()) {
         surface.SetColour(Red);
-        placed.Place(surface, box.x, legendTop + legendHeight + 100, noteLines);
+        placed.Place(surface, box.x, legendTop + legendHeight + toldHeight + 100, noteLines);
         surface.SetColour(Black);
     }
-}
-
-std::vector<std::string> PlanSheetTitle(const DesignRecord& record) {
-    std::vector<std::string> lines{"FOUNDATION PLAN AND TYPICAL SECTIONS"};
-    std::string project = record.ProjName;
-    if (!record.RectLabel.empty()) {
-        project += (project.empty() ? "" : " - ") + record.RectLabel;
-    }
-    if (!project.empty()) {
-        lines.push_back(project);
-    }
-    return lines;
-}
-
-void DrawPlanSheet(DrawingSurface& surface, const FoundationPlan& plan,
-                   const std::vector<std::string>& titleLines, const DrawingBox& sheet) {
-    surface.SetColour(Black);
-    PlacedTexts placed;
-    double y = sheet.y;
-    for (std::size_t i = 0; i < titleLines.size(); ++i) {
-        if (i == 0) {
-            UseDrawingTitle(surface);
-        } else {
-            UseDrawingText(surface);
-        }
-        const std::vector<std::string> lines = WrapText(surface, titleLines[i], sheet.width);
-        placed.Place(surface, sheet.x, y, lines);
-        y += BlockHeight(surface, lines);
-    }
-    y += 200;
-    const double sectionsHeight = plan.sections.empty() ? 0 : (sheet.y + sheet.height - y) * 0.4;
-    DrawFoundationPlan(
-        surface, plan,
-        {sheet.x, y, sheet.width, sheet.y + sheet.height - y - sectionsHeight - 200});
-    if (sectionsHeight > 0) {
-        const double sectionsTop = sheet.y + sheet.height - sectionsHeight;
-        UseDrawingTitle(surface);
-        placed.Place(surface, sheet.x, sectionsTop, {"TYPICAL SECTIONS (INCHES)"});
-        const double headHeight = surface.TextHeight("Bg") + 150;
-        DrawTypicalSections(
-            surface, plan,
-            {sheet.x, sectionsTop + headHeight, sheet.width, sectionsHeight - headHeight});
-    }
+    return scale;
 }

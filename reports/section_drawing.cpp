@@ -1,3 +1,5 @@
+#include "reports/section_drawing.h"
+
 #include "reports/plan_drawing.h"
 
 #include "plan/plan_legend.h"
@@ -68,13 +70,54 @@ double FitScale(DrawingSurface& surface, const FoundationPlan& plan, double cell
                              ColumnWidth(surface, texts.tendonDepth) + 2 * CellMargin;
         const double shown = section.width + 2 * WingOf(section);
         const double tall = std::max(section.depth, section.slabThick);
-        const double fits = std::min((cellWidth - sides) / shown, (cellHeight - bands) / tall);
+        double fits = std::min((cellWidth - sides) / shown, (cellHeight - bands) / tall);
+        // A section shorter than its two-line texts beside it is too small to read.
+        if (fits * tall < 2 * surface.TextHeight("Bg")) {
+            fits = -1;
+        }
         scale = scale < 0 ? fits : std::min(scale, fits);
     }
     return scale;
 }
 
+struct SectionsLayout {
+    double scale = -1; // twips to the inch; not above 0 when the sections do not fit
+    int columns = 1;
+    double titleHeight = 0;
+};
+
+// The sections stand in rows of cells, as many to a row as gives them the largest scale, one
+// scale for all.
+SectionsLayout ArrangeSections(DrawingSurface& surface, const FoundationPlan& plan,
+                               const DrawingBox& box) {
+    SectionsLayout layout;
+    UseDrawingTitle(surface);
+    layout.titleHeight = 2 * surface.TextHeight("Bg") + 120;
+    UseDrawingText(surface);
+    const double lineHeight = surface.TextHeight("Bg");
+    // Under the section: the width's dimension and text, below the side texts that hang half
+    // their two lines under the bottom of the beam.
+    const double bottomBand = SectionToDimension + 50 + 2 * lineHeight + 60;
+    const int count = static_cast<int>(plan.sections.size());
+    for (int across = 1; across <= count; ++across) {
+        const int rows = (count + across - 1) / across;
+        const double fits = FitScale(surface, plan, box.width / across, box.height / rows,
+                                     layout.titleHeight + bottomBand);
+        if (fits > layout.scale) {
+            layout.scale = fits;
+            layout.columns = across;
+        }
+    }
+    return layout;
+}
+
 } // namespace
+
+bool TypicalSectionsFit(DrawingSurface& surface, const FoundationPlan& plan,
+                        const DrawingBox& box) {
+    return plan.reason.empty() && !plan.sections.empty() &&
+           ArrangeSections(surface, plan, box).scale > 0;
+}
 
 void DrawTypicalSections(DrawingSurface& surface, const FoundationPlan& plan,
                          const DrawingBox& box) {
@@ -84,31 +127,15 @@ void DrawTypicalSections(DrawingSurface& surface, const FoundationPlan& plan,
     surface.SetColour(Black);
     surface.SetLineWidth(DimensionLineWidth);
     surface.SetLineStyle(LineStyle::Solid);
-    UseDrawingTitle(surface);
-    const double titleHeight = 2 * surface.TextHeight("Bg") + 120;
-    UseDrawingText(surface);
-    const double lineHeight = surface.TextHeight("Bg");
-    // Under the section: the width's dimension and text, below the side texts that hang half
-    // their two lines under the bottom of the beam.
-    const double bottomBand = SectionToDimension + 50 + 2 * lineHeight + 60;
-
-    // The sections stand in rows of cells, as many to a row as gives them the largest scale,
-    // one scale for all.
+    const SectionsLayout layout = ArrangeSections(surface, plan, box);
+    const double scale = layout.scale;
+    const int columns = layout.columns;
+    const double titleHeight = layout.titleHeight;
     const int count = static_cast<int>(plan.sections.size());
-    int columns = 1;
-    double scale = -1;
-    for (int across = 1; across <= count; ++across) {
-        const int rows = (count + across - 1) / across;
-        const double fits = FitScale(surface, plan, box.width / across, box.height / rows,
-                                     titleHeight + bottomBand);
-        if (fits > scale) {
-            scale = fits;
-            columns = across;
-        }
-    }
     if (!(scale > 0)) {
         return;
     }
+    UseDrawingText(surface);
     const double cellWidth = box.width / columns;
     const double cellHeight = box.height / ((count + columns - 1) / columns);
 
@@ -171,7 +198,7 @@ void DrawTypicalSections(DrawingSurface& surface, const FoundationPlan& plan,
         surface.SetLineWidth(DimensionLineWidth);
 
         // The slab tendon in each wing; the beam's tendons side by side at their cover.
-        const double tendonSize = std::max(section.tendonDiameter * scale, 45.0);
+        const double tendonSize = std::max(section.tendonDiameter * scale, 70.0);
         const double slabTendonLevel = top + section.slabTendonDepth * scale;
         DrawTendon(surface, left + wing / 2, slabTendonLevel, tendonSize);
         DrawTendon(surface, right - wing / 2, slabTendonLevel, tendonSize);

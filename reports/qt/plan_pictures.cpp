@@ -1,6 +1,7 @@
 #include "reports/qt/plan_pictures.h"
 
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/qt/painter_surface.h"
 #include "storage/file_error.h"
 
@@ -25,7 +26,8 @@ void DrawSheet(DrawingSurface& surface, const FoundationPlan& plan,
                const std::vector<std::string>& titleLines) {
     surface.BeginDocument();
     DrawPlanSheet(surface, plan, titleLines,
-                  {Margin, Margin, PlanSheetWidth - 2 * Margin, PlanSheetHeight - 2 * Margin});
+                  {Margin, Margin, PlanSheetWidth - 2 * Margin, PlanSheetHeight - 2 * Margin},
+                  SheetScale::Printed);
     surface.EndDocument();
 }
 

@@ -1,5 +1,8 @@
+#include "engine/project_analysis.h"
+#include "input/input_record.h"
 #include "input/live_plan.h"
 #include "shell/form_model.h"
+#include "storage/design_file.h"
 #include "tests/input/input_test_support.h"
 
 #include <gtest/gtest.h>
@@ -92,11 +95,44 @@ TEST(LivePlan, DrawsTheValuesAsTyped) {
     EXPECT_DOUBLE_EQ(spaced.spacingShort, 13.6);
     EXPECT_DOUBLE_EQ(spaced.spacingLong, 40);
 
-    // Slab tendons from a stress are counted by the analysis.
-    SelectOption(typed.screen.form, "optSlabRefType", 3, 1);
-    const FoundationPlan stressed = PlanOfTypedValues(typed.screen.form, typed.record);
-    EXPECT_FALSE(stressed.slabTendonsShort.known);
-    EXPECT_TRUE(stressed.slabTendonsLong.places.empty());
+    // A minimum spacing of 0 leaves the spacing undimensioned, and nothing is thrown.
+    typed.screen.form["txtSMin"].text = "0";
+    EXPECT_EQ(PlanOfTypedValues(typed.screen.form, typed.record).spacingShort, 0);
+}
+
+TEST(LivePlan, SlabTendonsFromAForceAreCountedByAnAnalysisOfTheScreen) {
+    // The example gives its slab prestress as a force ratio of 0.05 each way.
+    InputFixture example;
+    ReadDesignFile(std::string(K3_SOURCE_DIR) + "/examples/expansive_ribbed.kvt", AllSections,
+                   example.record, example.defaults, nullptr);
+    WriteInputRecord(example.screen, example.context, 10);
+    FormModel& form = example.screen.form;
+    const FoundationPlan counted = PlanOfTypedValues(form, example.record);
+    ASSERT_TRUE(counted.slabTendonsShort.known);
+    // The same count as the analysis of the screen's record, spread 2 ft off the edges.
+    DesignRecord screen = example.record;
+    ReadInputRecord(form, screen, 10);
+    ResultsRecord results;
+    ASSERT_FALSE(AnalyseProject(EngineSettings{}, screen, results).faultKind);
+    EXPECT_EQ(counted.slabTendonsShort.count, results.SlabTenShort);
+    EXPECT_EQ(counted.slabTendonsLong.count, results.SlabTenLong);
+    const double n = counted.slabTendonsShort.count;
+    ASSERT_GE(n, 2);
+    EXPECT_NEAR(counted.slabTendonsShort.spacing, 56 / (n - 1), 1e-9);
+    EXPECT_EQ(counted.slabTendonsShort.places.size(), static_cast<std::size_t>(n));
+    EXPECT_NEAR(counted.slabTendonsShort.places.back(), 58, 1e-9);
+
+    // Twice the force needs more tendons.
+    form["txtForceShort"].text = "0.1";
+    EXPECT_GT(PlanOfTypedValues(form, example.record).slabTendonsShort.count, n);
+    // A value of another page that stops the analysis leaves the count unknown, not the plan.
+    form["txtForceShort"].text = "0.05";
+    form["txtEmCenter"].text = "0";
+    const FoundationPlan waiting = PlanOfTypedValues(form, example.record);
+    EXPECT_EQ(waiting.reason, "");
+    EXPECT_FALSE(waiting.slabTendonsShort.known);
+    EXPECT_TRUE(waiting.slabTendonsLong.places.empty());
+    EXPECT_EQ(waiting.beams.size(), 13U);
 }
 
 TEST(LivePlan, KeepsTheLastGoodDrawingWhileAValueIsMissingOrInvalid) {

@@ -1,5 +1,7 @@
 #include "plan/foundation_plan.h"
+#include "plan/plan_legend.h"
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 #include "reports/recording_surface.h"
 
 #include <gtest/gtest.h>
@@ -157,7 +159,8 @@ TEST(PlanDrawing, NoTextOverlapsAnotherOrALineAtAnySize) {
                     {
                         RecordingSurface surface;
                         surface.BeginDocument();
-                        DrawPlanSheet(surface, plan, PlanSheetTitle(c.record), sheet);
+                        DrawPlanSheet(surface, plan, PlanSheetTitle(c.record), sheet,
+                                      SheetScale::Printed);
                         ExpectClearTexts(
                             surface.sheets().back(),
                             {sheet.x, sheet.y, sheet.x + sheet.width, sheet.y + sheet.height},
@@ -172,6 +175,18 @@ TEST(PlanDrawing, NoTextOverlapsAnotherOrALineAtAnySize) {
                             surface.sheets().back(),
                             {panel.x, panel.y, panel.x + panel.width, panel.y + panel.height},
                             what + " on a panel");
+                    }
+                    {
+                        // A narrow panel: the gap and spacing across the width are told in a
+                        // line, and the sections are left out when they cannot fit.
+                        RecordingSurface surface;
+                        surface.BeginDocument();
+                        DrawFoundationPlan(surface, plan, {0, 0, 4500, 6000});
+                        if (TypicalSectionsFit(surface, plan, {0, 6100, 4500, 3000})) {
+                            DrawTypicalSections(surface, plan, {0, 6100, 4500, 3000});
+                        }
+                        ExpectClearTexts(surface.sheets().back(), {0, 0, 4500, 9100},
+                                         what + " on a narrow panel");
                     }
                     ++drawn;
                     if (::testing::Test::HasFailure()) {
@@ -200,7 +215,7 @@ TEST(PlanDrawing, DrawsThePlanToScaleWithItsBeamsTendonsAndTexts) {
     const FoundationPlan plan = PlanOf(c.record, c.results);
     RecordingSurface surface;
     surface.BeginDocument();
-    DrawFoundationPlan(surface, plan, {0, 0, 12000, 9000});
+    const double drawnScale = DrawFoundationPlan(surface, plan, {0, 0, 12000, 9000});
     const RecordedSheet& sheet = surface.sheets().back();
 
     // The slab's heavy outline gives the scale: its sides are as 60 to 40.
@@ -212,6 +227,7 @@ TEST(PlanDrawing, DrawsThePlanToScaleWithItsBeamsTendonsAndTexts) {
     const double planHeight = std::abs(outline[1].y2 - outline[1].y1);
     EXPECT_NEAR(planWidth / planHeight, 1.5, 1e-9);
     const double scale = planWidth / 60;
+    EXPECT_NEAR(drawnScale, scale, 1e-9);
     const double left = std::min(outline[0].x1, outline[0].x2);
 
     // Beams: three short ones the plan's height tall, two long ones its width wide; the type 2
@@ -246,10 +262,67 @@ TEST(PlanDrawing, DrawsThePlanToScaleWithItsBeamsTendonsAndTexts) {
     }
     for (const std::string expected :
          {"28.67 ft clear", "29.00 ft analysis spacing", "60.00 ft", "38.00 ft", "clear",
-          "40.00 ft", "analysis spacing", "LONG DIRECTION", "SHORT DIRECTION",
+          "40.00 ft", "LONG DIRECTION", "SHORT", "DIRECTION", "analysis", "spacing",
           "Short Type 2: 1 beam, 8 x 22 in, 2 tendons each",
           "Short slab tendons: 10 at 6.22 ft o.c.", "Long slab tendons: 5 at 9.00 ft o.c."}) {
         EXPECT_NE(std::find(texts.begin(), texts.end(), expected), texts.end()) << expected;
+    }
+}
+
+TEST(PlanDrawing, ANarrowBoxTellsTheDimensionsAcrossTheWidthInALine) {
+    Case c = MakeCase(40, 60, 3, 3, 10);
+    c.results.SpacingLong = 19;
+    const FoundationPlan plan = PlanOf(c.record, c.results);
+    RecordingSurface surface;
+    surface.BeginDocument();
+    DrawFoundationPlan(surface, plan, {0, 0, 4500, 6000});
+    std::vector<std::string> texts;
+    for (const RecordedText& text : surface.sheets().back().texts) {
+        texts.push_back(text.text);
+    }
+    // Two 12 in and one 9 in long beams on 40 ft: gaps of (40 - 33/12) / 2 = 18.625 ft.
+    EXPECT_NE(std::find(texts.begin(), texts.end(),
+                        "Long direction beams: 18.63 ft clear, 19.00 ft analysis"),
+              texts.end());
+    EXPECT_NE(std::find(texts.begin(), texts.end(), "spacing"), texts.end());
+    EXPECT_EQ(std::find(texts.begin(), texts.end(), "clear"), texts.end());
+    // Four sections with their dimensions need more than 4500 twips.
+    EXPECT_FALSE(TypicalSectionsFit(surface, plan, {0, 0, 4500, 3000}));
+    EXPECT_TRUE(TypicalSectionsFit(surface, plan, {0, 0, 14000, 4500}));
+}
+
+TEST(PlanDrawing, APrintedSheetTellsTheScaleOfItsPlan) {
+    const Case c = MakeCase(40, 60, 3, 3, 10);
+    const FoundationPlan plan = PlanOf(c.record, c.results);
+    RecordingSurface surface;
+    surface.BeginDocument();
+    DrawPlanSheet(surface, plan, {"TITLE"}, {720, 720, 14400, 10800}, SheetScale::Printed);
+    const RecordedSheet& sheet = surface.sheets().back();
+    double planWidth = 0;
+    for (const RecordedLine& line : sheet.lines) {
+        if (line.width == OutlineWidth && line.y1 == line.y2) {
+            planWidth = std::abs(line.x2 - line.x1);
+        }
+    }
+    ASSERT_GT(planWidth, 0);
+    // 60 ft over the plan's width in inches of the sheet, at one of the engineer's scales.
+    const double feetPerInch = 60 / (planWidth / 1440);
+    const std::vector<double> engineers{5, 6, 8, 10, 15, 20, 30, 40, 50, 60, 80};
+    EXPECT_NE(std::find_if(engineers.begin(), engineers.end(),
+                           [&](double f) { return std::abs(f - feetPerInch) < 1e-9; }),
+              engineers.end())
+        << feetPerInch;
+    const std::string expected =
+        "Plan scale: 1 in = " + PlanNumber(60 / (planWidth / 1440)) + " ft";
+    const auto found = std::find_if(sheet.texts.begin(), sheet.texts.end(),
+                                    [&](const RecordedText& t) { return t.text == expected; });
+    ASSERT_NE(found, sheet.texts.end()) << expected;
+    EXPECT_DOUBLE_EQ(found->x + static_cast<double>(expected.size()) * 80, 720 + 14400);
+    RecordingSurface window;
+    window.BeginDocument();
+    DrawPlanSheet(window, plan, {"TITLE"}, {0, 0, 14400, 10800});
+    for (const RecordedText& text : window.sheets().back().texts) {
+        EXPECT_EQ(text.text.find("scale"), std::string::npos);
     }
 }
 
