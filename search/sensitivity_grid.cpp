@@ -246,3 +246,15 @@ SensitivityOutcome RunSensitivityGrid(const SensitivityRequest& request,
     outcome.points = std::move(results);
     return outcome;
 }
+
+SensitivityRun RunSensitivityRanges(const DesignRecord& project, const EngineSettings& settings,
+                                    std::span<const std::string> ranges, int threads) {
+    SensitivityRun run;
+    run.request.grid = ParseSensitivityGrid(ranges);
+    run.request.project = project;
+    run.request.settings = settings;
+    SensitivityControl control;
+    control.threads = threads;
+    run.outcome = RunSensitivityGrid(run.request, control);
+    return run;
+}

@@ -106,6 +106,16 @@ struct SensitivityOutcome {
 SensitivityOutcome RunSensitivityGrid(const SensitivityRequest& request,
                                       const SensitivityControl& control);
 
+// A whole run from the ranges as the engineer gives them ("EmCenter=2.75:8.25:0.1375"), for a
+// front end that has no dialog: the command line and a printed page of the calculation package.
+// Throws SearchRequestError as ParseSensitivityGrid does.
+struct SensitivityRun {
+    SensitivityRequest request;
+    SensitivityOutcome outcome;
+};
+SensitivityRun RunSensitivityRanges(const DesignRecord& project, const EngineSettings& settings,
+                                    std::span<const std::string> ranges, int threads);
+
 // Runs one record as a point: the value checks, the analysis on fresh results, the check table.
 SensitivityPoint RunSensitivityPoint(const EngineSettings& settings, const DesignRecord& record);
 

@@ -15,12 +15,6 @@ DesignRecord example(const char* name) {
     return record;
 }
 
-SensitivityPoint judged(double ribbed, bool pass) {
-    SensitivityPoint point;
-    point.ribbed = FoundationStanding{pass, ribbed, std::nullopt};
-    return point;
-}
-
 TEST(SensitivityDialog, OpensWithThePairOfTheSoilAndSpansAtHalfAndOneAndAHalf) {
     // Expansive example: em 5.5 ft and ym 2.5 in at center lift, 4 ft and 1.2 in at edge lift.
     const DesignRecord expansive = example("expansive_ribbed.kvt");
@@ -86,75 +80,6 @@ TEST(SensitivityDialog, SpansThatCannotRunSayWhy) {
     EXPECT_EQ(request->grid.count(), 41 * 41);
     EXPECT_EQ(request->grid.fields[0].valueAt(40), 8.25);
     EXPECT_EQ(request->grid.fields[1].valueAt(20), 2.5);
-}
-
-TEST(SensitivityDialog, ContourWhereTheRatioReachesOne) {
-    // Ratios 0.5 left, 1.5 right: the contour runs down the middle of the cell.
-    std::vector<SensitivityPoint> points = {judged(0.5, true), judged(1.5, false),
-                                            judged(0.5, true), judged(1.5, false)};
-    std::vector<ContourSegment> contour = RatioContour(points, 2, 2, 1.0);
-    ASSERT_EQ(contour.size(), 1u);
-    EXPECT_DOUBLE_EQ(contour[0].x1, 0.5);
-    EXPECT_DOUBLE_EQ(contour[0].y1, 0.0);
-    EXPECT_DOUBLE_EQ(contour[0].x2, 0.5);
-    EXPECT_DOUBLE_EQ(contour[0].y2, 1.0);
-
-    // 0.8 to 1.3 along the top: 1.0 lies 0.2 / 0.5 of the way.
-    points = {judged(0.8, true), judged(1.3, false), judged(0.8, true), judged(0.8, true)};
-    contour = RatioContour(points, 2, 2, 1.0);
-    ASSERT_EQ(contour.size(), 1u);
-    EXPECT_DOUBLE_EQ(contour[0].x1, 0.4);
-    EXPECT_DOUBLE_EQ(contour[0].y1, 0.0);
-    // Down the right edge from 1.3 to 0.8: also 0.6 of the way from the top.
-    EXPECT_DOUBLE_EQ(contour[0].x2, 1.0);
-    EXPECT_DOUBLE_EQ(contour[0].y2, 0.6);
-
-    // A saddle with its middle (1.0) on the high side: the two low corners are cut off.
-    points = {judged(1.5, false), judged(0.5, true), judged(0.5, true), judged(1.5, false)};
-    contour = RatioContour(points, 2, 2, 1.0);
-    ASSERT_EQ(contour.size(), 2u);
-    EXPECT_DOUBLE_EQ(contour[0].x1, 0.5); // top edge
-    EXPECT_DOUBLE_EQ(contour[0].y1, 0.0);
-    EXPECT_DOUBLE_EQ(contour[0].x2, 1.0); // right edge
-    EXPECT_DOUBLE_EQ(contour[0].y2, 0.5);
-    EXPECT_DOUBLE_EQ(contour[1].x1, 0.5); // bottom edge
-    EXPECT_DOUBLE_EQ(contour[1].y1, 1.0);
-    EXPECT_DOUBLE_EQ(contour[1].x2, 0.0); // left edge
-    EXPECT_DOUBLE_EQ(contour[1].y2, 0.5);
-
-    // A refused corner leaves its cell out.
-    points[1] = SensitivityPoint{};
-    points[1].refused = InputFault{"txtEmCenter", 5,
-                                   "Edge Moisture Variation Distance can not "
-                                   "be zero"};
-    EXPECT_TRUE(RatioContour(points, 2, 2, 1.0).empty());
-}
-
-TEST(SensitivityDialog, ColoursAndWordsOfAPoint) {
-    EXPECT_EQ(RatioColour(0.0), (ChartColour{26, 150, 65}));
-    EXPECT_EQ(RatioColour(0.9), (ChartColour{254, 205, 114})); // half way yellow to orange
-    EXPECT_EQ(RatioColour(1.0), (ChartColour{215, 48, 39}));
-    EXPECT_EQ(RatioColour(3.0), (ChartColour{120, 0, 30}));
-    EXPECT_NE(RatioColour(0.999), RatioColour(1.0));
-
-    const DesignRecord expansive = example("expansive_ribbed.kvt");
-    SensitivityRequest request;
-    request.project = expansive;
-    request.grid = ParseSensitivityGrid(std::vector<std::string>{"EmCenter=0:5.5:5.5"});
-    SensitivityControl control;
-    const SensitivityOutcome outcome = RunSensitivityGrid(request, control);
-    EXPECT_EQ(PointCaption(request, outcome, 0),
-              "EmCenter 0 ft\nRefused: Edge Moisture Variation Distance can not be zero");
-    const std::string design = PointCaption(request, outcome, 1);
-    EXPECT_EQ(design.substr(0, 34), "EmCenter 5.5 ft\nRibbed: max ratio ");
-    EXPECT_NE(design.find("governing: "), std::string::npos);
-    EXPECT_EQ(FieldAxisTitle("YmCenter"), "YmCenter, ym, center lift (in)");
-
-    const std::vector<ChartSeries> series = OneFieldSeries(request, outcome);
-    ASSERT_EQ(series.size(), 1u);
-    ASSERT_EQ(series[0].values.size(), 1u); // the refused point has no ratio
-    EXPECT_EQ(series[0].values[0].first, 5.5);
-    EXPECT_EQ(series[0].values[0].second, *outcome.design.ribbed->maxRatio);
 }
 
 } // namespace
