@@ -21,10 +21,10 @@ std::string ratioText(const std::optional<double>& ratio) {
 // value check, "F" ended in a fault.
 std::string cellText(const SensitivityPoint& point) {
     if (point.refused) {
-        return "R";
+        return "R ";
     }
     if (point.fault) {
-        return "F";
+        return "F ";
     }
     return ratioText(point.largestRatio()) + (point.passes() ? " " : "*");
 }
