@@ -4,6 +4,7 @@
 #include "app/options_view.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
+#include "app/sensitivity_view.h"
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
@@ -138,6 +139,9 @@ void MainWindow::BuildMenus() {
     QAction* analysis = AddAction(screen, "mnuAnalysis", "&Analysis");
     analysis->setShortcut(Qt::Key_F5);
     connect(analysis, &QAction::triggered, this, [this] { RunAnalysis(); });
+    screen->addSeparator();
+    connect(AddAction(screen, "mnuSensitivity", "Soil &Sensitivity..."), &QAction::triggered, this,
+            [this] { ShowSensitivityDialog(); });
 
     QMenu* help = menuBar()->addMenu("&Help");
     help->setObjectName("mnuHelp");
@@ -213,6 +217,21 @@ void MainWindow::BuildToolbar() {
                 ShowOutputScreen(m_program);
                 Refresh();
             });
+    toolbar->addSeparator();
+    connect(button("Sensitivity", 12, QStyle::SP_FileDialogInfoView), &QToolButton::clicked, this,
+            [this] { ShowSensitivityDialog(); });
+}
+
+void MainWindow::ShowSensitivityDialog() {
+    // The record is the one the results were worked out from: the dialog is open to a project
+    // whose input has not changed since its analysis, as the Output command is.
+    if (!MenuEnabled(m_program.project, "mnuOutput")) {
+        return;
+    }
+    auto* dialog =
+        new SensitivityView(m_program.record, m_program.settings.options.engineSettings(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
 }
 
 void MainWindow::Place() {
@@ -240,6 +259,8 @@ void MainWindow::Refresh() {
     for (const auto& [key, position] : keys) {
         m_buttons[key]->setEnabled(ToolbarButtonEnabled(project, position));
     }
+    m_actions["mnuSensitivity"]->setEnabled(MenuEnabled(project, "mnuOutput"));
+    m_buttons["Sensitivity"]->setEnabled(MenuEnabled(project, "mnuOutput"));
     m_buttons["New"]->setToolTip(QString::fromStdString(project.newToolTip));
     const std::vector<RecentFileItem> recent = RecentFileItems(m_program.settings);
     for (std::size_t i = 0; i < recent.size(); ++i) {

@@ -49,6 +49,7 @@ class MainWindow : public QMainWindow {
     void RunAnalysis();
     void OpenPrintDialog(PrintPath path);
     void ShowAbout();
+    void ShowSensitivityDialog();
 
     Program& m_program;
     ShellServices& m_services;

@@ -7,6 +7,7 @@
 #include "app/print_view.h"
 #include "app/qt_user_dialogs.h"
 #include "app/results_view.h"
+#include "app/sensitivity_view.h"
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/print_commands.h"
 #include "lifecycle/project_lifecycle.h"
@@ -15,6 +16,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <iostream>
@@ -89,6 +91,22 @@ int main(int argc, char** argv) {
                 Save(&window, folder + QString("/results-%1-%2.png").arg(tab + 1).arg(page + 1));
             }
         }
+    }
+    if (program.project.outputEnabled) {
+        // The soil sensitivity of the project as the dialog opens on it, then of its first
+        // field alone.
+        SensitivityView sensitivity(program.record, program.settings.options.engineSettings(),
+                                    &window);
+        sensitivity.show();
+        sensitivity.RunAndWait();
+        Save(&sensitivity, folder + "/sensitivity.png");
+        auto* one = sensitivity.findChild<QRadioButton*>("optPair(2)");
+        if (one->isEnabled() && !one->isChecked()) {
+            one->click();
+            sensitivity.RunAndWait();
+            Save(&sensitivity, folder + "/sensitivity-one-field.png");
+        }
+        sensitivity.hide();
     }
     if (program.project.printEnabled) {
         PrintView* print = window.printView();
