@@ -62,7 +62,7 @@ void SensitivityHeatMap::Draw(QPainter& painter, QSize size) const {
     if (m_request == nullptr || m_request->grid.fields.size() != 2) {
         return;
     }
-    painter.setRenderHint(QPainter::Antialiasing);
+    const double top = ChartTop(*m_outcome);
     const VariedField& rows = m_request->grid.fields[0];    // along y, first value at the bottom
     const VariedField& columns = m_request->grid.fields[1]; // along x
     const QRect plot = Plot(size);
@@ -90,6 +90,7 @@ void SensitivityHeatMap::Draw(QPainter& painter, QSize size) const {
             }
         }
     }
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::black, 2.5));
     for (const ContourSegment& segment : m_contour) {
         painter.drawLine(at(segment.x1, segment.y1), at(segment.x2, segment.y2));
@@ -145,22 +146,22 @@ void SensitivityHeatMap::Draw(QPainter& painter, QSize size) const {
                      QString::fromStdString(FieldAxisTitle(std::string(rows.field->name))));
     painter.restore();
 
-    // The colour key: governing ratio from 0 to 1.5.
+    // The colour key: governing ratio from 0 to the top.
     const QRect key(plot.right() + 24, plot.top(), KeyWidth, plot.height());
     for (int y = 0; y < key.height(); ++y) {
-        const double ratio = 1.5 * (1.0 - double(y) / key.height());
+        const double ratio = top * (1.0 - double(y) / key.height());
         painter.fillRect(QRect(key.left(), key.top() + y, key.width(), 1),
-                         ToQColor(RatioColour(ratio)));
+                         ToQColor(RatioColour(ratio, top)));
     }
     painter.setPen(Qt::darkGray);
     painter.drawRect(key);
     painter.setFont(font);
     painter.setPen(Qt::black);
-    for (const double ratio : {0.0, 0.5, 1.0, 1.5}) {
-        const double y = key.bottom() - ratio / 1.5 * key.height();
+    for (const double ratio : {0.0, 0.5, 1.0, top}) {
+        const double y = key.bottom() - ratio / top * key.height();
         painter.drawLine(QPointF(key.right(), y), QPointF(key.right() + 4, y));
         painter.drawText(QRectF(key.right() + 6, y - 8, 40, 16), Qt::AlignLeft | Qt::AlignVCenter,
-                         ratio == 1.5 ? "1.5+" : QString::number(ratio, 'f', 1));
+                         QString::number(ratio, 'f', 1));
     }
     painter.save();
     painter.translate(key.right() + 58, key.center().y());

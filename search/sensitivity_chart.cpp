@@ -104,7 +104,7 @@ std::vector<ContourSegment> RatioContour(const std::vector<SensitivityPoint>& po
     return segments;
 }
 
-ChartColour RatioColour(double ratio) {
+ChartColour RatioColour(double ratio, double top) {
     const ChartColour green{26, 150, 65};
     const ChartColour lightGreen{166, 217, 106};
     const ChartColour yellow{255, 235, 130};
@@ -120,7 +120,17 @@ ChartColour RatioColour(double ratio) {
     if (ratio < 1.0) {
         return mix(yellow, orange, (ratio - 0.8) / 0.2);
     }
-    return mix(red, darkRed, (ratio - 1.0) / 0.5);
+    return mix(red, darkRed, (ratio - 1.0) / std::max(top - 1.0, 0.1));
+}
+
+double ChartTop(const SensitivityOutcome& outcome) {
+    double top = 1.5;
+    for (const SensitivityPoint& point : outcome.points) {
+        if (const std::optional<double> ratio = ChartRatio(point)) {
+            top = std::max(top, std::ceil(*ratio * 10 - 1e-9) / 10);
+        }
+    }
+    return top;
 }
 
 ChartColour UnjudgedColour(const SensitivityPoint& point) {
@@ -231,13 +241,18 @@ std::vector<std::string> SensitivitySummaryLines(const SensitivityRequest& reque
     } else if (design.fault) {
         lines.push_back("The analysis of the design itself ended in a fault.");
     } else {
-        std::string line = "Design: ribbed max ratio " + ratioText(design.ribbed->maxRatio) +
-                           (design.ribbed->pass ? " (passes)" : " (does not pass)");
+        const auto standing = [](const char* name, const FoundationStanding& foundation) {
+            std::string text = std::string(name) + " max ratio " + ratioText(foundation.maxRatio) +
+                               (foundation.pass ? ", passes" : ", does not pass");
+            if (foundation.governing) {
+                text += " (" + CheckTitle(*foundation.governing) + ")";
+            }
+            return text + ".";
+        };
+        lines.push_back("Design: " + standing("ribbed", *design.ribbed));
         if (design.uniform) {
-            line += ", uniform thickness " + ratioText(design.uniform->maxRatio) +
-                    (design.uniform->pass ? " (passes)" : " (does not pass)");
+            lines.push_back("Design: " + standing("uniform thickness", *design.uniform));
         }
-        lines.push_back(line);
     }
     for (const PassingRange& range : outcome.passing) {
         const std::string name(range.field->name);
@@ -245,11 +260,22 @@ std::vector<std::string> SensitivitySummaryLines(const SensitivityRequest& reque
             lines.push_back(name + ": the design does not pass at its own values.");
             continue;
         }
-        std::string line = name + " passes from " + (range.openBelow ? "at most " : "") +
-                           valueWithUnit(name, range.from) + " to " +
-                           (range.openAbove ? "at least " : "") + valueWithUnit(name, range.to);
+        std::string line = name + " passes from " + valueWithUnit(name, range.from) +
+                           (range.openBelow ? " (end of the grid)" : "") + " to " +
+                           valueWithUnit(name, range.to) +
+                           (range.openAbove ? " (end of the grid)" : "");
         if (request.grid.fields.size() == 2) {
-            line += " with the other at its design value";
+            line += ", the other at its design value";
+        }
+        std::vector<std::string> fails;
+        for (const std::optional<double>& value : {range.failsBelow, range.failsAbove}) {
+            if (value) {
+                fails.push_back(valueWithUnit(name, *value));
+            }
+        }
+        if (!fails.empty()) {
+            line +=
+                "; does not pass at " + fails[0] + (fails.size() == 2 ? " and " + fails[1] : "");
         }
         lines.push_back(line + ".");
     }

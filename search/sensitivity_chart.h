@@ -29,13 +29,17 @@ struct ContourSegment {
 std::vector<ContourSegment> RatioContour(const std::vector<SensitivityPoint>& points,
                                          std::int64_t rows, std::int64_t columns, double level);
 
-// The colour of a ratio on the heat map: green well within the limit, through yellow, to red
-// at 1.0 and beyond (dark red from 1.5). Each part 0 to 255.
+// The colour of a ratio on the heat map: green well within the limit, through yellow and orange
+// below 1.0, then from red at 1.0 to dark red at `top` (the largest ratio the chart shows, at
+// least 1.5) and beyond, so that a grid that fails everywhere still shows where it fails most.
+// Each part 0 to 255.
 struct ChartColour {
     int red, green, blue;
     bool operator==(const ChartColour&) const = default;
 };
-ChartColour RatioColour(double ratio);
+ChartColour RatioColour(double ratio, double top = 1.5);
+// The top of the colour key for a run: its largest ratio rounded up to a tenth, at least 1.5.
+double ChartTop(const SensitivityOutcome& outcome);
 // Grey for a point refused by a value check, dark grey for one that faulted.
 ChartColour UnjudgedColour(const SensitivityPoint& point);
 
@@ -58,6 +62,7 @@ struct ChartSeries {
 std::vector<ChartSeries> OneFieldSeries(const SensitivityRequest& request,
                                         const SensitivityOutcome& outcome);
 
-// The lines under the chart: the design's standing and each passing range, in words.
+// The lines under the chart: the design's standing with its governing check, and each passing
+// range with the values beyond it that do not pass, in words.
 std::vector<std::string> SensitivitySummaryLines(const SensitivityRequest& request,
                                                  const SensitivityOutcome& outcome);

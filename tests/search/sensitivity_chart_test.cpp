@@ -69,6 +69,13 @@ TEST(SensitivityChart, ColoursAndWordsOfAPoint) {
     EXPECT_EQ(RatioColour(1.0), (ChartColour{215, 48, 39}));
     EXPECT_EQ(RatioColour(3.0), (ChartColour{120, 0, 30}));
     EXPECT_NE(RatioColour(0.999), RatioColour(1.0));
+    // A key that reaches 3.0: 2.0 lies half way from red to dark red.
+    EXPECT_EQ(RatioColour(2.0, 3.0), (ChartColour{168, 24, 35}));
+    SensitivityOutcome fails;
+    fails.points = {judged(2.01, false), judged(0.4, true)};
+    EXPECT_DOUBLE_EQ(ChartTop(fails), 2.1);
+    fails.points = {judged(1.2, false)};
+    EXPECT_DOUBLE_EQ(ChartTop(fails), 1.5);
 
     const DesignRecord expansive = example("expansive_ribbed.kvt");
     SensitivityRequest request;
@@ -88,6 +95,34 @@ TEST(SensitivityChart, ColoursAndWordsOfAPoint) {
     ASSERT_EQ(series[0].values.size(), 1u); // the refused point has no ratio
     EXPECT_EQ(series[0].values[0].first, 5.5);
     EXPECT_EQ(series[0].values[0].second, *outcome.design.ribbed->maxRatio);
+}
+
+TEST(SensitivityChart, SummaryInWords) {
+    SensitivityRequest request;
+    request.grid = ParseSensitivityGrid(std::vector<std::string>{"ExpBearing=150:2400:150"});
+    SensitivityOutcome outcome;
+    outcome.design = judged(0.7, true);
+    PassingRange range;
+    range.field = FindDesignField("ExpBearing");
+    range.design = 2000;
+    range.designPasses = true;
+    range.from = 300;
+    range.to = 2400;
+    range.openAbove = true;
+    range.failsBelow = 150;
+    outcome.passing = {range};
+    EXPECT_EQ(SensitivitySummaryLines(request, outcome),
+              (std::vector<std::string>{
+                  "Design: ribbed max ratio 0.70, passes.",
+                  "ExpBearing passes from 300 psf to 2400 psf (end of the grid); does not pass "
+                  "at 150 psf."}));
+    outcome.passing[0].designPasses = false;
+    outcome.design = judged(1.25, false);
+    outcome.interrupted = true;
+    EXPECT_EQ(SensitivitySummaryLines(request, outcome),
+              (std::vector<std::string>{"Design: ribbed max ratio 1.25, does not pass.",
+                                        "ExpBearing: the design does not pass at its own values.",
+                                        "The run was stopped before every point was done."}));
 }
 
 } // namespace
