@@ -93,13 +93,19 @@ int main(int argc, char** argv) {
         }
     }
     if (program.project.outputEnabled) {
-        // The soil sensitivity of the project as the dialog opens on it, then of its first
-        // field alone.
+        // The soil sensitivity of the project as the dialog opens on it, at edge lift, and of
+        // its first field alone.
         SensitivityView sensitivity(program.record, program.settings.options.engineSettings(),
                                     &window);
         sensitivity.show();
         sensitivity.RunAndWait();
         Save(&sensitivity, folder + "/sensitivity.png");
+        auto* edge = sensitivity.findChild<QRadioButton*>("optPair(1)");
+        if (edge->isEnabled()) {
+            edge->click();
+            sensitivity.RunAndWait();
+            Save(&sensitivity, folder + "/sensitivity-edge-lift.png");
+        }
         auto* one = sensitivity.findChild<QRadioButton*>("optPair(2)");
         if (one->isEnabled() && !one->isChecked()) {
             one->click();

@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QToolTip>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -36,6 +37,14 @@ void SensitivityHeatMap::Show(const SensitivityRequest& request,
     m_contour = fields.size() == 2
                     ? RatioContour(outcome.points, fields[0].count, fields[1].count, 1.0)
                     : std::vector<ContourSegment>{};
+    m_steps.clear();
+    if (fields.size() == 2) {
+        for (double level = 1.5; level < ChartTop(outcome); level += 0.5) {
+            const std::vector<ContourSegment> step =
+                RatioContour(outcome.points, fields[0].count, fields[1].count, level);
+            m_steps.insert(m_steps.end(), step.begin(), step.end());
+        }
+    }
     update();
 }
 
@@ -43,6 +52,7 @@ void SensitivityHeatMap::Clear() {
     m_request = nullptr;
     m_outcome = nullptr;
     m_contour.clear();
+    m_steps.clear();
     update();
 }
 
@@ -79,7 +89,7 @@ void SensitivityHeatMap::Draw(QPainter& painter, QSize size) const {
                 m_outcome->points[static_cast<std::size_t>(r * columns.count + c)];
             const std::optional<double> ratio = ChartRatio(point);
             const QColor colour =
-                ratio ? ToQColor(RatioColour(*ratio)) : ToQColor(UnjudgedColour(point));
+                ratio ? ToQColor(RatioColour(*ratio, top)) : ToQColor(UnjudgedColour(point));
             const QPointF middle = at(double(c), double(r));
             const QRectF cell(middle.x() - cellWidth / 2, middle.y() - cellHeight / 2,
                               cellWidth + 0.6, cellHeight + 0.6);
@@ -91,6 +101,11 @@ void SensitivityHeatMap::Draw(QPainter& painter, QSize size) const {
         }
     }
     painter.setRenderHint(QPainter::Antialiasing);
+    // Thin lines every half of a ratio beyond the limit, to read how far a region fails.
+    painter.setPen(QPen(QColor(255, 255, 255, 150), 1, Qt::DashLine));
+    for (const ContourSegment& segment : m_steps) {
+        painter.drawLine(at(segment.x1, segment.y1), at(segment.x2, segment.y2));
+    }
     painter.setPen(QPen(Qt::black, 2.5));
     for (const ContourSegment& segment : m_contour) {
         painter.drawLine(at(segment.x1, segment.y1), at(segment.x2, segment.y2));
@@ -157,7 +172,14 @@ void SensitivityHeatMap::Draw(QPainter& painter, QSize size) const {
     painter.drawRect(key);
     painter.setFont(font);
     painter.setPen(Qt::black);
-    for (const double ratio : {0.0, 0.5, 1.0, top}) {
+    // A tick every half (every whole beyond a ratio of 5), and the top.
+    std::vector<double> ticks;
+    const double tickStep = top > 5 ? 1.0 : 0.5;
+    for (double ratio = 0; ratio < top - 0.05; ratio += tickStep) {
+        ticks.push_back(ratio);
+    }
+    ticks.push_back(top);
+    for (const double ratio : ticks) {
         const double y = key.bottom() - ratio / top * key.height();
         painter.drawLine(QPointF(key.right(), y), QPointF(key.right() + 4, y));
         painter.drawText(QRectF(key.right() + 6, y - 8, 40, 16), Qt::AlignLeft | Qt::AlignVCenter,

@@ -7,9 +7,9 @@
 class QPainter;
 
 // The heat map of a two-field sensitivity run: each point coloured by its governing ratio, the
-// contour where the ratio reaches 1.0, the design point marked, axes with the values of both
-// fields and a colour key. The pointer over a point shows its words (PointCaption). It only
-// draws what the model gives.
+// contour where the ratio reaches 1.0 (and thin lines every half beyond it), the design point
+// marked, axes with the values of both fields and a colour key. The pointer over a point shows its
+// words (PointCaption). It only draws what the model gives.
 class SensitivityHeatMap : public QWidget {
   public:
     explicit SensitivityHeatMap(QWidget* parent);
@@ -28,4 +28,5 @@ class SensitivityHeatMap : public QWidget {
     const SensitivityRequest* m_request = nullptr;
     const SensitivityOutcome* m_outcome = nullptr;
     std::vector<ContourSegment> m_contour;
+    std::vector<ContourSegment> m_steps;
 };

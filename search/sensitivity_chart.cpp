@@ -110,7 +110,8 @@ ChartColour RatioColour(double ratio, double top) {
     const ChartColour yellow{255, 235, 130};
     const ChartColour orange{253, 174, 97};
     const ChartColour red{215, 48, 39};
-    const ChartColour darkRed{120, 0, 30};
+    const ChartColour darkRed{150, 0, 60};
+    const ChartColour deepPurple{55, 0, 70};
     if (ratio < 0.5) {
         return mix(green, lightGreen, ratio / 0.5);
     }
@@ -120,7 +121,9 @@ ChartColour RatioColour(double ratio, double top) {
     if (ratio < 1.0) {
         return mix(yellow, orange, (ratio - 0.8) / 0.2);
     }
-    return mix(red, darkRed, (ratio - 1.0) / std::max(top - 1.0, 0.1));
+    const double beyond = std::clamp((ratio - 1.0) / std::max(top - 1.0, 0.1), 0.0, 1.0);
+    return beyond < 0.5 ? mix(red, darkRed, beyond / 0.5)
+                        : mix(darkRed, deepPurple, beyond / 0.5 - 1);
 }
 
 double ChartTop(const SensitivityOutcome& outcome) {

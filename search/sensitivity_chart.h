@@ -30,9 +30,9 @@ std::vector<ContourSegment> RatioContour(const std::vector<SensitivityPoint>& po
                                          std::int64_t rows, std::int64_t columns, double level);
 
 // The colour of a ratio on the heat map: green well within the limit, through yellow and orange
-// below 1.0, then from red at 1.0 to dark red at `top` (the largest ratio the chart shows, at
-// least 1.5) and beyond, so that a grid that fails everywhere still shows where it fails most.
-// Each part 0 to 255.
+// below 1.0, then from red at 1.0 through dark red to deep purple at `top` (the largest ratio the
+// chart shows, at least 1.5) and beyond, so that a grid that fails everywhere still shows where it
+// fails most. Each part 0 to 255.
 struct ChartColour {
     int red, green, blue;
     bool operator==(const ChartColour&) const = default;

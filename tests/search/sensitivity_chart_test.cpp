@@ -67,10 +67,12 @@ TEST(SensitivityChart, ColoursAndWordsOfAPoint) {
     EXPECT_EQ(RatioColour(0.0), (ChartColour{26, 150, 65}));
     EXPECT_EQ(RatioColour(0.9), (ChartColour{254, 205, 114})); // half way yellow to orange
     EXPECT_EQ(RatioColour(1.0), (ChartColour{215, 48, 39}));
-    EXPECT_EQ(RatioColour(3.0), (ChartColour{120, 0, 30}));
+    EXPECT_EQ(RatioColour(3.0), (ChartColour{55, 0, 70}));
+    EXPECT_EQ(RatioColour(1.25), (ChartColour{150, 0, 60}));
     EXPECT_NE(RatioColour(0.999), RatioColour(1.0));
-    // A key that reaches 3.0: 2.0 lies half way from red to dark red.
-    EXPECT_EQ(RatioColour(2.0, 3.0), (ChartColour{168, 24, 35}));
+    // A key that reaches 3.0: 2.0 is the dark red half way, 1.5 half way from red to it.
+    EXPECT_EQ(RatioColour(2.0, 3.0), (ChartColour{150, 0, 60}));
+    EXPECT_EQ(RatioColour(1.5, 3.0), (ChartColour{183, 24, 50}));
     SensitivityOutcome fails;
     fails.points = {judged(2.01, false), judged(0.4, true)};
     EXPECT_DOUBLE_EQ(ChartTop(fails), 2.1);
