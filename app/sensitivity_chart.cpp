@@ -1,7 +1,5 @@
 #include "app/sensitivity_chart.h"
 
-#include "common/number_text.h"
-
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -16,7 +14,7 @@ QColor ToQColor(ChartColour colour) {
 }
 
 QString Number(double value) {
-    return QString::fromStdString(GeneralNumberText(value));
+    return QString::fromStdString(FieldValueText(value));
 }
 
 constexpr int KeyWidth = 16;

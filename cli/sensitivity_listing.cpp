@@ -2,8 +2,8 @@
 
 #include "cli/results_summary.h"
 #include "cli/summary_table.h"
-#include "common/number_text.h"
 #include "compliance/check_names.h"
+#include "search/sensitivity_chart.h"
 
 #include <algorithm>
 #include <map>
@@ -70,7 +70,7 @@ void printDesign(const SensitivityRequest& request, const SensitivityOutcome& ou
     std::string values;
     for (const VariedField& varied : request.grid.fields) {
         values += (values.empty() ? "" : ", ") + std::string(varied.field->name) + " " +
-                  GeneralNumberText(request.project.*varied.field->real);
+                  FieldValueText(request.project.*varied.field->real);
     }
     out << "\nDesign (" << values << "): ";
     const SensitivityPoint& design = outcome.design;
@@ -100,7 +100,7 @@ void printOneField(const SensitivityRequest& request, const SensitivityOutcome& 
     for (std::size_t i = 0; i < outcome.points.size(); ++i) {
         const SensitivityPoint& point = outcome.points[i];
         std::vector<std::string> row = {
-            GeneralNumberText(varied.valueAt(static_cast<std::int64_t>(i)))};
+            FieldValueText(varied.valueAt(static_cast<std::int64_t>(i)))};
         if (!point.judged()) {
             row.push_back(point.refused ? "R" : "F");
             row.push_back(point.refused ? point.refused->message : faultText(*point.fault));
@@ -146,11 +146,11 @@ void printTwoFields(const SensitivityRequest& request, const SensitivityOutcome&
     std::vector<std::string> heading = {std::string(rowsField.field->name) + " \\ " +
                                         std::string(columnsField.field->name)};
     for (std::int64_t c = 0; c < columnsField.count; ++c) {
-        heading.push_back(GeneralNumberText(columnsField.valueAt(c)) + " ");
+        heading.push_back(FieldValueText(columnsField.valueAt(c)) + " ");
     }
     rows.push_back(heading);
     for (std::int64_t r = 0; r < rowsField.count; ++r) {
-        std::vector<std::string> row = {GeneralNumberText(rowsField.valueAt(r))};
+        std::vector<std::string> row = {FieldValueText(rowsField.valueAt(r))};
         for (std::int64_t c = 0; c < columnsField.count; ++c) {
             row.push_back(
                 cellText(outcome.points[static_cast<std::size_t>(r * columnsField.count + c)]));
@@ -161,25 +161,25 @@ void printTwoFields(const SensitivityRequest& request, const SensitivityOutcome&
 }
 
 void printRange(const PassingRange& range, std::ostream& out) {
-    out << "  " << range.field->name << " (design " << GeneralNumberText(range.design) << "): ";
+    out << "  " << range.field->name << " (design " << FieldValueText(range.design) << "): ";
     if (!range.designPasses) {
         out << "the design does not pass at its own values\n";
         return;
     }
-    out << "passes from " << GeneralNumberText(range.from);
+    out << "passes from " << FieldValueText(range.from);
     if (range.openBelow) {
         out << " (end of the grid)";
     }
-    out << " to " << GeneralNumberText(range.to);
+    out << " to " << FieldValueText(range.to);
     if (range.openAbove) {
         out << " (end of the grid)";
     }
     std::vector<std::string> fails;
     if (range.failsBelow) {
-        fails.push_back(GeneralNumberText(*range.failsBelow));
+        fails.push_back(FieldValueText(*range.failsBelow));
     }
     if (range.failsAbove) {
-        fails.push_back(GeneralNumberText(*range.failsAbove));
+        fails.push_back(FieldValueText(*range.failsAbove));
     }
     if (!fails.empty()) {
         out << "; does not pass at " << fails[0];

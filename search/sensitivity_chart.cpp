@@ -1,12 +1,12 @@
 #include "search/sensitivity_chart.h"
 
 #include "common/number_pattern.h"
-#include "common/number_text.h"
 #include "compliance/check_names.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdio>
 
 namespace {
 
@@ -25,7 +25,7 @@ std::string standingText(const char* name, const FoundationStanding& standing) {
 
 std::string valueWithUnit(const std::string& field, double value) {
     const std::string unit = FieldUnit(field);
-    return GeneralNumberText(value) + (unit.empty() ? "" : " " + unit);
+    return FieldValueText(value) + (unit.empty() ? "" : " " + unit);
 }
 
 ChartColour mix(ChartColour a, ChartColour b, double t) {
@@ -138,6 +138,14 @@ double ChartTop(const SensitivityOutcome& outcome) {
 
 ChartColour UnjudgedColour(const SensitivityPoint& point) {
     return point.refused ? ChartColour{200, 200, 200} : ChartColour{90, 90, 90};
+}
+
+std::string FieldValueText(double value) {
+    // Fifteen significant digits are every digit of a value of the range grammar, and the fewest
+    // that never show the binary tail of a decimal fraction.
+    char text[32];
+    std::snprintf(text, sizeof text, "%.15g", value == 0 ? 0.0 : value);
+    return text;
 }
 
 std::string FieldUnit(const std::string& field) {

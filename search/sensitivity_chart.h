@@ -48,6 +48,10 @@ ChartColour UnjudgedColour(const SensitivityPoint& point);
 std::string PointCaption(const SensitivityRequest& request, const SensitivityOutcome& outcome,
                          std::int64_t index);
 
+// A value of a varied field as the chart and the listing write it: its shortest decimal form
+// with a leading zero ("0.5", "2.75", "8.25").
+std::string FieldValueText(double value);
+
 // The unit of a soil field ("ft" for EmCenter), or empty.
 std::string FieldUnit(const std::string& field);
 // The axis title of a varied field: "EmCenter, em center lift (ft)".

@@ -91,6 +91,13 @@ TEST(SensitivityChart, ColoursAndWordsOfAPoint) {
     EXPECT_EQ(design.substr(0, 34), "EmCenter 5.5 ft\nRibbed: max ratio ");
     EXPECT_NE(design.find("governing: "), std::string::npos);
     EXPECT_EQ(FieldAxisTitle("YmCenter"), "YmCenter, ym, center lift (in)");
+    // Every value of a grid in its decimal form: 2.75 + 3 x 0.1375 is 3.1625, not 3.16250000001.
+    const CandidateGrid grid =
+        ParseSensitivityGrid(std::vector<std::string>{"EmCenter=2.75:8.25:0.1375"});
+    EXPECT_EQ(FieldValueText(grid.fields[0].valueAt(3)), "3.1625");
+    EXPECT_EQ(FieldValueText(0.5), "0.5");
+    EXPECT_EQ(FieldValueText(-0.0), "0");
+    EXPECT_EQ(FieldValueText(2400), "2400");
 
     const std::vector<ChartSeries> series = OneFieldSeries(request, outcome);
     ASSERT_EQ(series.size(), 1u);
