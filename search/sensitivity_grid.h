@@ -84,8 +84,9 @@ struct SensitivityRequest {
 struct SensitivityControl {
     // Threads that run points; the calling thread only waits and reports progress.
     int threads = 1;
-    // Set from elsewhere (the dialog's Cancel) to end the run early; the result is then
-    // incomplete and marked so.
+    // Set from elsewhere (the dialog's Cancel, its closing) to end the run early; the outcome
+    // is then marked interrupted, the points not run are left neither judged, refused nor
+    // faulted, and no passing range is given.
     const std::atomic<bool>* stop = nullptr;
     // Called on the calling thread a few times a second with the points done and the total.
     std::function<void(std::int64_t done, std::int64_t total)> progress;

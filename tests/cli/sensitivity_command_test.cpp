@@ -104,6 +104,24 @@ TEST(SensitivityCommand, FaultsAndRefusedRequests) {
 
     run = sensitivity(ExamplePath("no_such_project.kvt"), {"EmCenter=1:2"}, false);
     EXPECT_EQ(run.status, 2);
+
+    // A project that itself faults: its fault heads the object, its design has no verdict, the
+    // grid is still given, and the status is that of a fault.
+    ScratchFolder folder;
+    DesignRecord record = Defaults();
+    ReadDesignFile(ExamplePath("expansive_ribbed.kvt"), AllSections, record, Defaults(), nullptr);
+    record.Prestress = 189;
+    const std::filesystem::path project = folder.path() / "dead.kvt";
+    WriteDesignFile(project, AllSections, record);
+    run = sensitivity(project, {"Prestress=188:189"}, true);
+    EXPECT_EQ(run.status, 3);
+    document = nlohmann::ordered_json::parse(run.out);
+    EXPECT_EQ(document["fault"],
+              nlohmann::ordered_json({{"kind", "division by zero"}, {"stage", 4}}));
+    EXPECT_TRUE(document["design"]["verdict"].is_null());
+    EXPECT_TRUE(document["design"]["maxRatio"].is_null());
+    EXPECT_EQ(document["points"][0]["verdict"]["ribbed"], "fail");
+    EXPECT_FALSE(document["points"][1]["fault"].is_null());
 }
 
 TEST(SensitivityCommand, TextTableAndPassingRanges) {

@@ -208,6 +208,23 @@ TEST(SensitivityGrid, DesignThatFailsHasNoPassingRange) {
     EXPECT_FALSE(outcome.passing.at(0).designPasses);
 }
 
+// A run stopped from elsewhere (the dialog's Cancel) is marked so and gives no passing range.
+TEST(SensitivityGrid, StoppedRun) {
+    SensitivityRequest request;
+    request.project = quietBase();
+    request.grid = ParseSensitivityGrid(std::vector<std::string>{"ExpBearing=150:2400:150"});
+    const std::atomic<bool> stop{true};
+    SensitivityControl control;
+    control.threads = 2;
+    control.stop = &stop;
+    std::int64_t reportedTotal = 0;
+    control.progress = [&](std::int64_t, std::int64_t total) { reportedTotal = total; };
+    const SensitivityOutcome outcome = RunSensitivityGrid(request, control);
+    EXPECT_TRUE(outcome.interrupted);
+    EXPECT_TRUE(outcome.passing.empty());
+    EXPECT_EQ(reportedTotal, 16);
+}
+
 TEST(SensitivityGrid, RequestsThatCannotBeCarriedOut) {
     const auto refusal = [](const std::vector<std::string>& ranges) {
         try {
