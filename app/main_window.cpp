@@ -6,6 +6,7 @@
 #include "app/plan_panel.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
+#include "app/sensitivity_view.h"
 #include "app/toolbar_icons.h"
 #include "app/verdict_strip_view.h"
 #include "input/live_plan.h"
@@ -192,6 +193,8 @@ void MainWindow::BuildMenus() {
     checks->setShortcut(Qt::Key_F6);
     screen->addAction(checks);
     m_actions["mnuChecks"] = checks;
+    connect(AddAction(screen, "mnuSensitivity", "Soil &Sensitivity..."), &QAction::triggered, this,
+            [this] { ShowSensitivityDialog(); });
 
     QMenu* help = menuBar()->addMenu("&Help");
     help->setObjectName("mnuHelp");
@@ -271,6 +274,21 @@ void MainWindow::BuildToolbar() {
                 ShowOutputScreen(m_program);
                 Refresh();
             });
+    toolbar->addSeparator();
+    connect(button("Sensitivity", 12, QStyle::SP_FileDialogInfoView), &QToolButton::clicked, this,
+            [this] { ShowSensitivityDialog(); });
+}
+
+void MainWindow::ShowSensitivityDialog() {
+    // The record is the one the results were worked out from: the dialog is open to a project
+    // whose input has not changed since its analysis, as the Output command is.
+    if (!MenuEnabled(m_program.project, "mnuOutput")) {
+        return;
+    }
+    auto* dialog =
+        new SensitivityView(m_program.record, m_program.settings.options.engineSettings(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
 }
 
 void MainWindow::Place() {
@@ -298,6 +316,8 @@ void MainWindow::Refresh() {
     for (const auto& [key, position] : keys) {
         m_buttons[key]->setEnabled(ToolbarButtonEnabled(project, position));
     }
+    m_actions["mnuSensitivity"]->setEnabled(MenuEnabled(project, "mnuOutput"));
+    m_buttons["Sensitivity"]->setEnabled(MenuEnabled(project, "mnuOutput"));
     m_buttons["New"]->setToolTip(QString::fromStdString(project.newToolTip));
     const std::vector<RecentFileItem> recent = RecentFileItems(m_program.settings);
     for (std::size_t i = 0; i < recent.size(); ++i) {

@@ -63,6 +63,7 @@ class MainWindow : public QMainWindow {
     QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
     void OpenPrintDialog(PrintPath path);
     void ShowAbout();
+    void ShowSensitivityDialog();
 
     Program& m_program;
     ShellServices& m_services;

@@ -7,6 +7,7 @@
 #include "app/print_view.h"
 #include "app/qt_user_dialogs.h"
 #include "app/results_view.h"
+#include "app/sensitivity_view.h"
 #include "lifecycle/analysis_reset.h"
 #include "lifecycle/print_commands.h"
 #include "lifecycle/project_lifecycle.h"
@@ -17,6 +18,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <iostream>
@@ -100,6 +102,28 @@ int main(int argc, char** argv) {
         Save(&window, folder + "/results-plan.png");
         window.Action("mnuPlan")->trigger();
         window.Refresh();
+    }
+    if (program.project.outputEnabled) {
+        // The soil sensitivity of the project as the dialog opens on it, at edge lift, and of
+        // its first field alone.
+        SensitivityView sensitivity(program.record, program.settings.options.engineSettings(),
+                                    &window);
+        sensitivity.show();
+        sensitivity.RunAndWait();
+        Save(&sensitivity, folder + "/sensitivity.png");
+        auto* edge = sensitivity.findChild<QRadioButton*>("optPair(1)");
+        if (edge->isEnabled()) {
+            edge->click();
+            sensitivity.RunAndWait();
+            Save(&sensitivity, folder + "/sensitivity-edge-lift.png");
+        }
+        auto* one = sensitivity.findChild<QRadioButton*>("optPair(2)");
+        if (one->isEnabled() && !one->isChecked()) {
+            one->click();
+            sensitivity.RunAndWait();
+            Save(&sensitivity, folder + "/sensitivity-one-field.png");
+        }
+        sensitivity.hide();
     }
     if (program.project.printEnabled) {
         PrintView* print = window.printView();

@@ -66,6 +66,7 @@ int main(int argc, char** argv) {
         AddUpgradeSubcommand(app),
         AddNewSubcommand(app),
         AddOptimizeSubcommand(app, RunInterruptibleSearch),
+        AddSensitivitySubcommand(app),
     };
 
     // Whether the command asked for JSON, so that even a failure to understand it is an object.

@@ -9,6 +9,7 @@
 #include "cli/new_command.h"
 #include "cli/report_command.h"
 #include "cli/results_command.h"
+#include "cli/sensitivity_command.h"
 #include "cli/sketch_command.h"
 #include "cli/upgrade_command.h"
 
@@ -291,5 +292,35 @@ Subcommand AddOptimizeSubcommand(CLI::App& app, std::function<int(OptimizeOption
                                                                  : SearchObjective::Concrete;
                 options.progress = isatty(STDERR_FILENO) == 1;
                 return runSearch(options);
+            }};
+}
+
+Subcommand AddSensitivitySubcommand(CLI::App& app) {
+    struct SensitivityLine {
+        SensitivityOptions options;
+        AnalysisFlags flags;
+    };
+    auto line = std::make_shared<SensitivityLine>();
+    SensitivityOptions& sensitivity = line->options;
+    sensitivity.threads = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+    CLI::App* command = app.add_subcommand(
+        "sensitivity", "Run a project over a grid of one or two soil values (em, ym, ...) and "
+                       "print how close each point comes to failing");
+    AddProjectAndJson(*command, sensitivity.project, sensitivity.json);
+    command
+        ->add_option("--vary", sensitivity.ranges,
+                     "FIELD=FROM:TO[:STEP][,FIELD=FROM:TO[:STEP]] one or two real fields of the "
+                     "design record (EmCenter, YmCenter, EmEdge, YmEdge, Settle, ...); the step "
+                     "is 1 when not given")
+        ->required()
+        ->delimiter(',');
+    command->add_option("--threads", sensitivity.threads,
+                        "Threads that run points (default: one per core)");
+    AddAnalysisOptions(*command, line->flags);
+    return {command, [line](const ProgramSettings& settings) {
+                SensitivityOptions options = line->options;
+                options.settings = line->flags.over(settings.options);
+                options.defaults = settings.defaults;
+                return RunSensitivityCommand(options, std::cout, std::cerr);
             }};
 }

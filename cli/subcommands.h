@@ -23,5 +23,6 @@ Subcommand AddReportSubcommand(CLI::App& app);
 Subcommand AddSketchSubcommand(CLI::App& app);
 Subcommand AddUpgradeSubcommand(CLI::App& app);
 Subcommand AddNewSubcommand(CLI::App& app);
+Subcommand AddSensitivitySubcommand(CLI::App& app);
 // The search runs through `runSearch`, which may catch the terminal's interrupt around it.
 Subcommand AddOptimizeSubcommand(CLI::App& app, std::function<int(OptimizeOptions&)> runSearch);
