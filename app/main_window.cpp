@@ -2,9 +2,11 @@
 
 #include "app/input_view.h"
 #include "app/options_view.h"
+#include "app/package_export_view.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
 #include "lifecycle/analysis_reset.h"
+#include "lifecycle/package_export.h"
 #include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
 
@@ -109,6 +111,9 @@ void MainWindow::BuildMenus() {
     QAction* print = AddAction(file, "mnuPrint", "&Print ...");
     print->setShortcut(QKeySequence::Print);
     connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(PrintPath::Menu); });
+    connect(AddAction(file, "mnuExportPackage", "Export &Calculation Package..."),
+            &QAction::triggered, this,
+            [this] { ExportCalculationPackage(this, m_program, m_services); });
     QAction* recentSeparator = file->addSeparator();
     recentSeparator->setObjectName("mnuRUSeparator");
     m_actions["mnuRUSeparator"] = recentSeparator;
@@ -235,6 +240,7 @@ void MainWindow::Refresh() {
                              "mnuInput", "mnuAnalysis"}) {
         m_actions[name]->setEnabled(MenuEnabled(project, name));
     }
+    m_actions["mnuExportPackage"]->setEnabled(PackageExportAvailable(m_program));
     const std::pair<const char*, int> keys[] = {
         {"Save", 4}, {"Print", 6}, {"Input", 8}, {"Analysis", 9}, {"Output", 10}};
     for (const auto& [key, position] : keys) {
