@@ -47,7 +47,7 @@ void VerdictRow(PackageWriter& w, Foundation foundation, const FoundationVerdict
                 std::span<const DesignCheck> checks) {
     const double top = w.y();
     w.Font(10, true);
-    w.Text(PackageLeft + 200, FoundationTitle(foundation), 3000);
+    w.Text(PackageLeft + 200, FoundationTitle(foundation), 2650);
     const Colour colour = !verdict.pass && w.content().info.colour ? Red : Black;
     w.Step(LineStep(10));
     w.Font(24, true, colour);

@@ -21,7 +21,7 @@ UnitParts SplitUnit(const std::string& unit) {
 
 // The share of the font size a superscript is drawn at, and how far it is raised.
 constexpr double PowerShare = 0.65;
-constexpr double PowerRaise = 0.3;
+constexpr double PowerRaise = 0.25;
 
 } // namespace
 
@@ -38,7 +38,15 @@ std::string PackageNumber(double value, const std::string& unit) {
         unit == "ft" || unit == "ratio") {
         return FormatNumber(value, "#,##0.00");
     }
-    return GeneralNumberText(value);
+    // A coefficient in its shortest full form, with the nought before the point that a reader
+    // of a calculation expects: 0.75, not .75.
+    std::string text = GeneralNumberText(value);
+    if (text.rfind(".", 0) == 0) {
+        text.insert(0, "0");
+    } else if (text.rfind("-.", 0) == 0) {
+        text.insert(1, "0");
+    }
+    return text;
 }
 
 std::string UnitShown(const std::string& unit) {

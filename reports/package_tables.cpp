@@ -63,7 +63,18 @@ void DrawPackageInputs(PackageWriter& w, const PackageContent& c) {
 
 void DrawPackagePlan(PackageWriter& w, const PackageContent& c) {
     const DrawingBox box{PackageLeft, w.y(), Width, PackageBodyBottom - w.y()};
-    DrawPlanSheet(w.surface(), c.plan, PlanSheetTitle(c.record), box);
+    // The page's own title names the drawing: the sheet keeps only the project's line.
+    std::vector<std::string> titleLines = PlanSheetTitle(c.record);
+    if (titleLines.size() > 1) {
+        titleLines.erase(titleLines.begin());
+    }
+    // A name without blanks cannot wrap: each line is kept to the drawing's width, in the
+    // drawing's title font, which its first line takes.
+    UseDrawingTitle(w.surface());
+    for (std::string& line : titleLines) {
+        line = FitText(w.surface(), line, Width);
+    }
+    DrawPlanSheet(w.surface(), c.plan, titleLines, box);
     w.Step(box.height);
 }
 
@@ -185,7 +196,8 @@ void DrawPackageChecks(PackageWriter& w, const PackageContent& c) {
             continue;
         }
         const VerdictCounts counts = CountVerdict(c.checks, foundation);
-        w.Room(LineStep(11) * 4);
+        // The foundation's line stays with its first block: its heading, columns and a row.
+        w.Room(LineStep(11) * 2 + LineStep(10) + LineStep(RowPoints) * 4);
         w.Step(LineStep(9) * 0.5);
         w.Font(11, true, !verdict->pass && c.info.colour ? Red : Black);
         w.Text(PackageLeft,

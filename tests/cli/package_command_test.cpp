@@ -23,6 +23,7 @@ struct PackageRun {
     int status;
     nlohmann::json document;
     std::string err;
+    nlohmann::ordered_json ordered; // the same, with its keys in the order printed
 };
 
 PackageRun package(const std::filesystem::path& project, bool inputChecks = true) {
@@ -37,7 +38,8 @@ PackageRun package(const std::filesystem::path& project, bool inputChecks = true
     options.check = inputChecks;
     std::ostringstream out, err;
     const int status = RunPackageCommand(options, out, err);
-    return {status, nlohmann::json::parse(out.str()), err.str()};
+    return {status, nlohmann::json::parse(out.str()), err.str(),
+            nlohmann::ordered_json::parse(out.str())};
 }
 
 nlohmann::json checks(const std::filesystem::path& project) {
@@ -112,7 +114,7 @@ TEST(PackageCommand, JsonAgreesWithTheChecksAndTracesTheFile) {
         ASSERT_EQ(run.status, 0) << run.err;
         const nlohmann::json& d = run.document;
         std::vector<std::string> keys;
-        for (const auto& item : d.items()) {
+        for (const auto& item : run.ordered.items()) {
             keys.push_back(item.key());
         }
         EXPECT_EQ(keys, (std::vector<std::string>{"version", "fault", "verdict", "governing",

@@ -116,7 +116,7 @@ TEST(CalculationPackage, PagesInOrderForEachSoilCaseWithHeaderAndFooter) {
     const std::vector<Case> cases{
         {"expansive_ribbed.kvt", [](DesignRecord&) {}},
         {"expansive_ribbed.kvt", [](DesignRecord& r) { r.FlatSlab = 1; }},
-        {"expansive_ribbed.kvt", [](DesignRecord& r) { r.FlatSlab = 1, r.LineLoadType = 1; }},
+        {"uniform_line_load.kvt", [](DesignRecord& r) { r.FlatSlab = 0; }},
         {"compressible_edge_down.kvt", [](DesignRecord&) {}},
         {"compressible_edge_down.kvt", [](DesignRecord& r) { r.CLSettleState = 0; }},
         {"compressible_edge_down.kvt", [](DesignRecord& r) { r.FlatSlab = 1; }},
@@ -166,20 +166,27 @@ TEST(CalculationPackage, PagesInOrderForEachSoilCaseWithHeaderAndFooter) {
 // failing checks and broken rules as its rows, and one "NG" on the checks page for each.
 TEST(CalculationPackage, CoverAndChecksPageCountAsTheCheckTable) {
     for (const bool failing : {false, true}) {
+        SCOPED_TRACE(failing ? "failing" : "passing");
         DrawnPackage p;
-        p.record = Example("expansive_ribbed.kvt");
-        p.record.FlatSlab = 1;
+        // The compressible example passes every check.
+        p.record = Example("compressible_edge_down.kvt");
         if (failing) {
-            // Too weak a concrete breaks the manual's rule of 2500 psi in both foundations, and a
-            // large edge lift movement overstresses the slab.
+            // Too weak a concrete breaks the manual's rule of 2500 psi, and a large settlement
+            // overstresses the slab; the uniform thickness foundation is judged too.
             p.record.Fpc = 2000;
-            p.record.YmEdge = 4;
+            p.record.Settle = 6;
+            p.record.FlatSlab = 1;
         }
         Draw(p);
         ASSERT_FALSE(p.fault.has_value());
         const DesignVerdict verdict = JudgeDesign(p.record, p.checks);
         int ng = 0;
+        int foundations = 0;
         for (const Foundation foundation : {Foundation::Ribbed, Foundation::Uniform}) {
+            if (foundation == Foundation::Uniform && !verdict.uniform) {
+                continue;
+            }
+            ++foundations;
             int overLimit = 0;
             int broken = 0;
             for (const DesignCheck& check : p.checks) {
@@ -191,6 +198,7 @@ TEST(CalculationPackage, CoverAndChecksPageCountAsTheCheckTable) {
             const FoundationVerdict& v =
                 foundation == Foundation::Ribbed ? verdict.ribbed : *verdict.uniform;
             EXPECT_EQ(overLimit + broken, v.notOk);
+            EXPECT_EQ(v.pass, overLimit + broken == 0);
             const std::string counts =
                 std::to_string(overLimit) +
                 (overLimit == 1 ? " check over its limit, " : " checks over their limits, ") +
@@ -205,15 +213,33 @@ TEST(CalculationPackage, CoverAndChecksPageCountAsTheCheckTable) {
                                       std::to_string(overLimit) + " checks over their limits, " +
                                       std::to_string(broken) + " rules broken"),
                       1);
-            EXPECT_EQ(v.pass, !failing);
         }
-        EXPECT_EQ(CountOnPage(p.surface, "Calculation package", failing ? "FAIL" : "PASS"), 2);
+        EXPECT_EQ(verdict.ribbed.pass, !failing);
+        EXPECT_EQ(CountOnPage(p.surface, "Calculation package", failing ? "FAIL" : "PASS"),
+                  failing ? foundations : 1);
         EXPECT_EQ(CountOnPage(p.surface, "Design checks", "NG"), ng);
+        EXPECT_EQ(ng > 0, failing);
         if (failing) {
-            // The concrete rule with both of its numbers, psi whole: 2,000 against 2,500.
-            EXPECT_EQ(CountOnPage(p.surface, "Design checks", "2,000"), 2);
-            EXPECT_EQ(CountOnPage(p.surface, "Design checks", "2,500"), 2);
-            EXPECT_GE(ng, 4);
+            // The concrete rule with both of its numbers, psi whole: 2,000 against 2,500, NG.
+            bool found = false;
+            for (const RecordedSheet& sheet : p.surface.sheets()) {
+                for (const RecordedText& t : sheet.texts) {
+                    if (t.text != "Concrete strength at least 2500 psi") {
+                        continue;
+                    }
+                    found = true;
+                    std::vector<std::string> row;
+                    for (const RecordedText& u : sheet.texts) {
+                        if (u.y == t.y) {
+                            row.push_back(u.text);
+                        }
+                    }
+                    EXPECT_EQ(row, (std::vector<std::string>{t.text, "", "2,000", "2,500", "psi",
+                                                             "NG", "7.1"}));
+                    EXPECT_TRUE(t.bold);
+                }
+            }
+            EXPECT_TRUE(found);
         }
     }
 }
@@ -288,6 +314,8 @@ TEST(CalculationPackage, NumbersTakeTheFormatOfTheirKind) {
     EXPECT_EQ(PackageNumber(8.0, "in"), "8.00");
     EXPECT_EQ(PackageNumber(19.5, "count"), "20");
     EXPECT_EQ(PackageNumber(1.5, ""), "1.5");
+    EXPECT_EQ(PackageNumber(0.75, ""), "0.75");
+    EXPECT_EQ(PackageNumber(-0.05, ""), "-0.05");
     EXPECT_EQ(UnitShown("count"), "");
     RecordingSurface surface;
     surface.BeginDocument();
