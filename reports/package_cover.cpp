@@ -76,6 +76,19 @@ void VerdictRow(PackageWriter& w, Foundation foundation, const FoundationVerdict
     } else {
         line("No check with a ratio of demand to limit", false);
     }
+    // A rule has no ratio and never governs: a broken one is named, so that a FAIL with a
+    // governing check that is OK is not a riddle.
+    for (const DesignCheck& check : checks) {
+        if (check.foundation == foundation && check.mode == CheckMode::Rules &&
+            check.status == CheckStatus::Ng) {
+            line("Rule broken: " + CheckTitle(check) +
+                     (counts.brokenRules > 1
+                          ? " and " + std::to_string(counts.brokenRules - 1) + " more"
+                          : std::string()),
+                 true);
+            break;
+        }
+    }
     w.Step(LineStep(24));
     w.Step(std::max(0.0, y - w.y()));
 }
@@ -133,7 +146,7 @@ void DrawPackageCover(PackageWriter& w, const PackageContent& c) {
 
     Section(w, "Verdict");
     const int rows = c.verdict.uniform ? 2 : 1;
-    const double rowHeight = LineStep(10) + LineStep(24) + 60;
+    const double rowHeight = LineStep(9) * 4 + 60;
     w.Room(rows * rowHeight + 200);
     const double boxTop = w.y();
     w.Step(100);

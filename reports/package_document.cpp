@@ -127,7 +127,7 @@ VerdictCounts CountVerdict(std::span<const DesignCheck> checks, Foundation found
 
 std::vector<PackagePage> PackagePages(const PackageContent& content) {
     if (content.fault) {
-        return {{"Calculation package: the analysis did not complete", DrawPackageFault}};
+        return {{"Calculation package", DrawPackageFault}};
     }
     std::vector<PackagePage> pages{
         {"Calculation package", DrawPackageCover},

@@ -202,8 +202,11 @@ void DrawPackageChecks(PackageWriter& w, const PackageContent& c) {
         w.Font(11, true, !verdict->pass && c.info.colour ? Red : Black);
         w.Text(PackageLeft,
                std::string(FoundationTitle(foundation)) + ": " + (verdict->pass ? "PASS" : "FAIL") +
-                   ", " + std::to_string(counts.failingChecks) + " checks over their limits, " +
-                   std::to_string(counts.brokenRules) + " rules broken",
+                   ", " + std::to_string(counts.failingChecks) +
+                   (counts.failingChecks == 1 ? " check over its limit, "
+                                              : " checks over their limits, ") +
+                   std::to_string(counts.brokenRules) +
+                   (counts.brokenRules == 1 ? " rule broken" : " rules broken"),
                Width);
         w.Step(LineStep(11));
         std::string current;

@@ -210,8 +210,11 @@ TEST(CalculationPackage, CoverAndChecksPageCountAsTheCheckTable) {
                                           : "Uniform thickness foundation";
             EXPECT_EQ(CountOnPage(p.surface, "Design checks",
                                   title + ": " + (v.pass ? "PASS" : "FAIL") + ", " +
-                                      std::to_string(overLimit) + " checks over their limits, " +
-                                      std::to_string(broken) + " rules broken"),
+                                      std::to_string(overLimit) +
+                                      (overLimit == 1 ? " check over its limit, "
+                                                      : " checks over their limits, ") +
+                                      std::to_string(broken) +
+                                      (broken == 1 ? " rule broken" : " rules broken")),
                       1);
         }
         EXPECT_EQ(verdict.ribbed.pass, !failing);
@@ -240,6 +243,10 @@ TEST(CalculationPackage, CoverAndChecksPageCountAsTheCheckTable) {
                 }
             }
             EXPECT_TRUE(found);
+            // The cover names the broken rule, which has no ratio and so never governs.
+            EXPECT_EQ(CountOnPage(p.surface, "Calculation package",
+                                  "Rule broken: Concrete strength at least 2500 psi"),
+                      1);
         }
     }
 }
