@@ -47,13 +47,13 @@ void VerdictRow(PackageWriter& w, Foundation foundation, const FoundationVerdict
                 std::span<const DesignCheck> checks) {
     const double top = w.y();
     w.Font(10, true);
-    w.Text(PackageLeft + 200, FoundationTitle(foundation), 2650);
+    w.Text(PackageLeft + 200, FoundationTitle(foundation), 3000);
     const Colour colour = !verdict.pass && w.content().info.colour ? Red : Black;
     w.Step(LineStep(10));
     w.Font(24, true, colour);
     w.Text(PackageLeft + 200, verdict.pass ? "PASS" : "FAIL", 2600);
     const VerdictCounts counts = CountVerdict(checks, foundation);
-    const double textX = PackageLeft + 3000;
+    const double textX = PackageLeft + 3400;
     const double textWidth = PackageRight - 200 - textX;
     double y = top;
     auto line = [&](const std::string& text, bool bold) {
