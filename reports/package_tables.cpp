@@ -509,8 +509,8 @@ void DrawPackageLineLoad(PackageWriter& w, const PackageContent& c) {
          {"Prestress at the line load", "LLPrestress", r.LLPrestress, r.LLPrestress, "psi"},
          {"Stress, tension fiber", "LLStressTension", r.LLStressTension / 1000,
           r.LLStressTension / 1000, "ksi"},
-         {"Stress, compression fiber", "LLStressCompression", r.LLStressCompression / 1000,
-          r.LLStressCompression / 1000, "ksi"}},
+         {"Stress, compression fiber", "LLStressCompression", r.LLStressCompression,
+          r.LLStressCompression, "psi"}},
         true);
     if (d.FlatSlab == 1) {
         ResultBlock(w, "Uniform thickness foundation - Line load results", CheckMode::LineLoad,
@@ -520,8 +520,8 @@ void DrawPackageLineLoad(PackageWriter& w, const PackageContent& c) {
                       r.UTLLPrestress, "psi"},
                      {"Stress, tension fiber", "UTLLStressTension", r.UTLLStressTension / 1000,
                       r.UTLLStressTension / 1000, "ksi"},
-                     {"Stress, compression fiber", "UTLLStressCompression",
-                      r.UTLLStressCompression / 1000, r.UTLLStressCompression / 1000, "ksi"}},
+                     {"Stress, compression fiber", "UTLLStressCompression", r.UTLLStressCompression,
+                      r.UTLLStressCompression, "psi"}},
                     true);
     }
     CheckBlocks(w, c.checks,
