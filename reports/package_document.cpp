@@ -28,7 +28,10 @@ void PackageWriter::Font(double points, bool bold, Colour colour) {
 }
 
 void PackageWriter::Text(double x, const std::string& text, double width) {
-    m_surface.DrawText(x, m_y, FitText(m_surface, text, width));
+    const std::string fitted = FitText(m_surface, text, width);
+    if (!fitted.empty()) {
+        m_surface.DrawText(x, m_y, fitted);
+    }
 }
 
 void PackageWriter::TextRight(double right, const std::string& text) {

@@ -237,8 +237,8 @@ TEST(CalculationPackage, CoverAndChecksPageCountAsTheCheckTable) {
                             row.push_back(u.text);
                         }
                     }
-                    EXPECT_EQ(row, (std::vector<std::string>{t.text, "", "2,000", "2,500", "psi",
-                                                             "NG", "7.1"}));
+                    EXPECT_EQ(row, (std::vector<std::string>{t.text, "2,000", "2,500", "psi", "NG",
+                                                             "7.1"}));
                     EXPECT_TRUE(t.bold);
                 }
             }
