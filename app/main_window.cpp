@@ -3,6 +3,7 @@
 #include "app/checks_dock.h"
 #include "app/input_view.h"
 #include "app/options_view.h"
+#include "app/package_export_view.h"
 #include "app/plan_panel.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
@@ -11,6 +12,7 @@
 #include "app/verdict_strip_view.h"
 #include "input/live_plan.h"
 #include "lifecycle/analysis_reset.h"
+#include "lifecycle/package_export.h"
 #include "lifecycle/project_lifecycle.h"
 #include "reports/plan_drawing.h"
 #include "reports/plan_sheet.h"
@@ -145,6 +147,9 @@ void MainWindow::BuildMenus() {
     QAction* print = AddAction(file, "mnuPrint", "&Print ...");
     print->setShortcut(QKeySequence::Print);
     connect(print, &QAction::triggered, this, [this] { OpenPrintDialog(PrintPath::Menu); });
+    connect(AddAction(file, "mnuExportPackage", "Export &Calculation Package..."),
+            &QAction::triggered, this,
+            [this] { ExportCalculationPackage(this, m_program, m_services); });
     QAction* recentSeparator = file->addSeparator();
     recentSeparator->setObjectName("mnuRUSeparator");
     m_actions["mnuRUSeparator"] = recentSeparator;
@@ -311,6 +316,7 @@ void MainWindow::Refresh() {
                              "mnuInput", "mnuAnalysis"}) {
         m_actions[name]->setEnabled(MenuEnabled(project, name));
     }
+    m_actions["mnuExportPackage"]->setEnabled(PackageExportAvailable(m_program));
     const std::pair<const char*, int> keys[] = {
         {"Save", 4}, {"Print", 6}, {"Input", 8}, {"Analysis", 9}, {"Output", 10}};
     for (const auto& [key, position] : keys) {

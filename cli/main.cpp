@@ -63,6 +63,7 @@ int main(int argc, char** argv) {
         AddResultsSubcommand(app),
         AddReportSubcommand(app),
         AddSketchSubcommand(app),
+        AddPackageSubcommand(app),
         AddUpgradeSubcommand(app),
         AddNewSubcommand(app),
         AddOptimizeSubcommand(app, RunInterruptibleSearch),

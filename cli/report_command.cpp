@@ -4,6 +4,7 @@
 #include "cli/input_check.h"
 #include "cli/project_loading.h"
 #include "cli/run_fault.h"
+#include "cli/sheets_json.h"
 #include "cli/stderr_dialogs.h"
 #include "output/results_run.h"
 #include "reports/page_frame.h"
@@ -29,10 +30,6 @@ class RememberingDialogs : public StreamDialogs {
     std::string last;
 };
 
-bool IsRed(Colour colour) {
-    return colour.red == 255 && colour.green == 0 && colour.blue == 0;
-}
-
 // The heights of "Bg" at 10, 12 and 14 point as a page measures them on the recording surface,
 // whose metrics are the same on every sheet.
 nlohmann::ordered_json LineHeightsJson(const DesignRecord& record, const ResultsRecord& results,
@@ -42,34 +39,6 @@ nlohmann::ordered_json LineHeightsJson(const DesignRecord& record, const Results
     page.fontName = fontName;
     const LineHeights heights = MeasureLineHeights(page);
     return {heights.points10, heights.points12, heights.points14};
-}
-
-// Every sheet as the recording surface kept it: texts with their place and style in drawing
-// order, and lines.
-nlohmann::ordered_json SheetsJson(const RecordingSurface& surface,
-                                  const nlohmann::ordered_json& lineHeights) {
-    nlohmann::ordered_json sheets = nlohmann::ordered_json::array();
-    for (const RecordedSheet& sheet : surface.sheets()) {
-        nlohmann::ordered_json texts = nlohmann::ordered_json::array();
-        for (const RecordedText& t : sheet.texts) {
-            texts.push_back({{"x", t.x},
-                             {"y", t.y},
-                             {"text", t.text},
-                             {"size", t.size},
-                             {"bold", t.bold},
-                             {"underline", t.underline},
-                             {"red", IsRed(t.colour)}});
-        }
-        nlohmann::ordered_json lines = nlohmann::ordered_json::array();
-        for (const RecordedLine& l : sheet.lines) {
-            lines.push_back(
-                {{"x1", l.x1}, {"y1", l.y1}, {"x2", l.x2}, {"y2", l.y2}, {"width", l.width}});
-        }
-        sheets.push_back({{"lineHeights", lineHeights},
-                          {"texts", std::move(texts)},
-                          {"lines", std::move(lines)}});
-    }
-    return sheets;
 }
 
 // The report as JSON when no sheet is drawn: after a fault, or with nothing to print.

@@ -7,6 +7,7 @@
 #include "cli/exit_status.h"
 #include "cli/json_error.h"
 #include "cli/new_command.h"
+#include "cli/package_command.h"
 #include "cli/report_command.h"
 #include "cli/results_command.h"
 #include "cli/sensitivity_command.h"
@@ -214,6 +215,35 @@ Subcommand AddSketchSubcommand(CLI::App& app) {
             options.defaults = settings.defaults;
             return WithFonts(
                 [&options] { return RunSketchCommand(options, std::cout, std::cerr); });
+        }};
+}
+
+Subcommand AddPackageSubcommand(CLI::App& app) {
+    auto line = std::make_shared<AnalysingLine<PackageOptions>>();
+    PackageOptions& package = line->options;
+    CLI::App* command = app.add_subcommand(
+        "package", "Analyse a project and write its calculation package as a PDF");
+    command->add_option("PROJECT", package.project, "Project file (.kvt)")->required();
+    command->add_option("-o,--output", package.output, "The PDF to write");
+    command->add_flag("--json", package.json,
+                      "Print every text and line of every sheet as JSON, instead of a PDF");
+    command->add_option("--firm", package.firm, "The engineer's firm, for the cover");
+    command->add_option("--license", package.license,
+                        "The engineer's license number, for the cover");
+    AddAnalysisOptions(*command, line->flags);
+    AddNoCheckFlag(*command, line->noCheck);
+    return {
+        command, [line](const ProgramSettings& settings) {
+            if (line->options.output.empty() == !line->options.json) {
+                std::cerr << "korvath3-cli package: give either --output or --json\n";
+                if (line->options.json) {
+                    PrintJsonError({ExitBadUsage, "give either --output or --json", ""}, std::cout);
+                }
+                return static_cast<int>(ExitBadUsage);
+            }
+            PackageOptions options = line->over(settings);
+            return WithFonts(
+                [&options] { return RunPackageCommand(options, std::cout, std::cerr); });
         }};
 }
 

@@ -21,6 +21,7 @@ Subcommand AddChecksSubcommand(CLI::App& app);
 Subcommand AddResultsSubcommand(CLI::App& app);
 Subcommand AddReportSubcommand(CLI::App& app);
 Subcommand AddSketchSubcommand(CLI::App& app);
+Subcommand AddPackageSubcommand(CLI::App& app);
 Subcommand AddUpgradeSubcommand(CLI::App& app);
 Subcommand AddNewSubcommand(CLI::App& app);
 Subcommand AddSensitivitySubcommand(CLI::App& app);
