@@ -4,14 +4,17 @@
 #include "cli/exit_status.h"
 #include "cli/file_digest.h"
 #include "cli/input_check.h"
+#include "cli/json_error.h"
 #include "cli/project_loading.h"
 #include "cli/run_fault.h"
 #include "cli/sheets_json.h"
 #include "lifecycle/package_content.h"
+#include "lifecycle/package_study.h"
 #include "output/results_run.h"
 #include "reports/package_document.h"
 #include "reports/qt/package_pdf.h"
 #include "reports/recording_surface.h"
+#include "search/search_request_error.h"
 #include "storage/file_error.h"
 
 #include <nlohmann/json.hpp>
@@ -51,7 +54,22 @@ int RunPackageCommand(const PackageOptions& options, std::ostream& out, std::ost
     info.trace = {options.project.filename().string(), *digest, clock.TodayLongDate(),
                   clock.TimeOfDay()};
     const PackageContent content = MakePackageContent(record, results, checks, fault, info);
-    const std::vector<PackagePage> pages = PackagePages(content);
+    std::vector<PackagePage> pages = PackagePages(content);
+    if (!fault && !options.sensitivity.empty()) {
+        // The study runs the project as it stands, after the package's own analysis.
+        try {
+            const SensitivityRun study = RunSensitivityRanges(loaded->record, options.settings,
+                                                              options.sensitivity, options.threads);
+            const auto place = pages.begin() + static_cast<std::ptrdiff_t>(StudyPagePlace(pages));
+            pages.insert(place, SoilStudyPage(SoilStudyChartOf(study.request, study.outcome)));
+        } catch (const SearchRequestError& error) {
+            err << "korvath3-cli package: " << error.what() << '\n';
+            if (options.json) {
+                PrintJsonError({ExitBadUsage, error.what(), options.project.string()}, out);
+            }
+            return ExitBadUsage;
+        }
+    }
     const int status = fault ? ExitEngineFault : ExitAnalysed;
 
     if (options.json) {

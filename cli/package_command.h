@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 struct PackageOptions {
     std::filesystem::path project;
@@ -18,6 +19,10 @@ struct PackageOptions {
     bool check = true;
     EngineSettings settings;
     DesignRecord defaults = FirstStartDefaultRecord(TodayLongDateText());
+    // Each "FIELD=FROM:TO[:STEP]" of a soil sensitivity study (one or two fields) for a page of its
+    // own after the key results; none leaves the page out.
+    std::vector<std::string> sensitivity;
+    int threads = 1;
     // The date and time the package gives for its run; the machine's clock when none is given.
     const Clock* clock = nullptr;
 };

@@ -230,6 +230,12 @@ Subcommand AddPackageSubcommand(CLI::App& app) {
     command->add_option("--firm", package.firm, "The engineer's firm, for the cover");
     command->add_option("--license", package.license,
                         "The engineer's license number, for the cover");
+    command
+        ->add_option("--sensitivity", package.sensitivity,
+                     "FIELD=FROM:TO[:STEP][,FIELD=FROM:TO[:STEP]] a soil sensitivity page over "
+                     "one or two real fields (EmCenter, YmCenter, ...)")
+        ->delimiter(',');
+    package.threads = static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
     AddAnalysisOptions(*command, line->flags);
     AddNoCheckFlag(*command, line->noCheck);
     return {

@@ -4,6 +4,7 @@
 #include "compliance/check_names.h"
 #include "reports/package_format.h"
 #include "reports/plan_drawing.h"
+#include "reports/plan_sheet.h"
 
 #include <array>
 #include <cstring>

@@ -4,6 +4,7 @@
 #include "storage/design_file.h"
 #include "tests/cli/cli_test_support.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -177,4 +178,46 @@ TEST(PackageCommand, FaultedRunGivesOnePageAndPdfIsWrittenWhole) {
               2);
     out.clear();
     EXPECT_EQ(cli(settings, "package '" + faulting.string() + "'", out), 1);
+}
+
+// A soil sensitivity study adds its page after the key results and before the line load page;
+// a range the study cannot run (a count, not a real value) is refused before anything is drawn.
+TEST(PackageCommand, SensitivityPageStandsAfterTheKeyResults) {
+    static const FixedClock clock;
+    const auto run = [](std::vector<std::string> sensitivity, std::string& err) {
+        PackageOptions options;
+        options.project = ExamplePath("uniform_line_load.kvt");
+        options.json = true;
+        options.defaults = Defaults();
+        options.clock = &clock;
+        options.sensitivity = std::move(sensitivity);
+        std::ostringstream out, errors;
+        const int status = RunPackageCommand(options, out, errors);
+        err = errors.str();
+        return std::make_pair(status, nlohmann::json::parse(out.str()));
+    };
+    std::string err;
+    const auto [plainStatus, plain] = run({}, err);
+    const auto [status, studied] = run({"EmEdge=3:6:1.5", "YmEdge=1:2:0.5"}, err);
+    ASSERT_EQ(plainStatus, 0);
+    ASSERT_EQ(status, 0) << err;
+    EXPECT_EQ(studied["sheets"].get<int>(), plain["sheets"].get<int>() + 1);
+    // The title of each sheet is its first bold 13 point text.
+    std::vector<std::string> titles;
+    for (const auto& sheet : studied["pages"]) {
+        for (const auto& t : sheet["texts"]) {
+            if (t["size"] == 13.0 && t["bold"] == true) {
+                titles.push_back(t["text"]);
+                break;
+            }
+        }
+    }
+    const auto study = std::find(titles.begin(), titles.end(), "Soil sensitivity");
+    ASSERT_NE(study, titles.end());
+    EXPECT_EQ(study[-1].rfind("Key results", 0), 0u);
+    EXPECT_EQ(study[1], "Line load");
+
+    const auto [refused, document] = run({"QS1=4:6"}, err);
+    EXPECT_EQ(refused, 1);
+    EXPECT_TRUE(document.contains("error"));
 }
