@@ -293,6 +293,8 @@ void MainWindow::ShowSensitivityDialog() {
     auto* dialog =
         new SensitivityView(m_program.record, m_program.settings.options.engineSettings(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->OnRunFinished(
+        [this](const std::vector<std::string>& ranges) { m_program.sensitivityRanges = ranges; });
     dialog->show();
 }
 

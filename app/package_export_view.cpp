@@ -2,9 +2,11 @@
 
 #include "lifecycle/package_content.h"
 #include "lifecycle/package_export.h"
+#include "lifecycle/package_study.h"
 #include "reports/qt/package_pdf.h"
 #include "storage/file_error.h"
 
+#include <QCheckBox>
 #include <QCryptographicHash>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -15,6 +17,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <thread>
 
 namespace {
 
@@ -42,6 +46,17 @@ bool AskFirmAndLicense(QWidget* parent, PackageExportDialog& model) {
     auto* form = new QFormLayout;
     form->addRow("Firm :", firm);
     form->addRow("License Number :", license);
+    auto* sensitivity = new QCheckBox("Soil sensitivity page", &dialog);
+    sensitivity->setObjectName("chkSensitivity");
+    sensitivity->setEnabled(!model.sensitivityRanges.empty());
+    sensitivity->setChecked(model.sensitivityPage);
+    std::string ranges;
+    for (const std::string& range : model.sensitivityRanges) {
+        ranges += (ranges.empty() ? "" : ", ") + range;
+    }
+    sensitivity->setToolTip(ranges.empty() ? QString("Run Data Screen > Soil Sensitivity first")
+                                           : QString::fromStdString("Over " + ranges));
+    form->addRow("", sensitivity);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     buttons->button(QDialogButtonBox::Ok)->setObjectName("cmbOK");
     buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmbCancel");
@@ -56,6 +71,7 @@ bool AskFirmAndLicense(QWidget* parent, PackageExportDialog& model) {
     }
     model.firm = firm->text().toStdString();
     model.license = license->text().toStdString();
+    model.sensitivityPage = sensitivity->isChecked();
     return true;
 }
 
@@ -66,6 +82,7 @@ void ExportCalculationPackage(QWidget* parent, Program& program, ShellServices& 
         return;
     }
     PackageExportDialog model = OpenPackageExportDialog(services);
+    OfferSensitivityPage(model, program);
     if (!AskFirmAndLicense(parent, model)) {
         return;
     }
@@ -84,8 +101,18 @@ void ExportCalculationPackage(QWidget* parent, Program& program, ShellServices& 
     const PackageContent content =
         MakePackageContent(program.record, program.results, checks, fault,
                            PackageInfoOf(program, model, sha256, services.clock));
+    std::vector<PackagePage> pages = PackagePages(content);
+    if (model.sensitivityPage && !model.sensitivityRanges.empty() && !fault) {
+        // The study of the last run is worked anew over the analysis on screen; it takes a few
+        // milliseconds.
+        const SensitivityRun study = RunSensitivityRanges(
+            program.record, program.settings.options.engineSettings(), model.sensitivityRanges,
+            static_cast<int>(std::max(1u, std::thread::hardware_concurrency())));
+        pages.insert(pages.begin() + static_cast<std::ptrdiff_t>(StudyPagePlace(pages)),
+                     SoilStudyPage(SoilStudyChartOf(study.request, study.outcome)));
+    }
     try {
-        WritePackagePdf(chosen.toStdString(), content, PackagePages(content));
+        WritePackagePdf(chosen.toStdString(), content, pages);
     } catch (const FileError& error) {
         QMessageBox::critical(parent,
                               QString("Error Writing Calculation Package - %1").arg(error.number()),

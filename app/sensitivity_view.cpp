@@ -242,6 +242,9 @@ void SensitivityView::FinishRun() {
         summary += Text(line) + "\n";
     }
     m_summary->setText(summary.trimmed());
+    if (m_finishedRun && !m_outcome->interrupted) {
+        m_finishedRun(SensitivityRanges(m_dialog));
+    }
     if (m_request->grid.fields.size() == 2) {
         m_heatMap->Show(*m_request, *m_outcome);
         m_charts->setCurrentWidget(m_heatMap);

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -29,6 +30,10 @@ class SensitivityView : public QDialog {
 
     // Runs the grid and waits for it (the screenshots).
     void RunAndWait();
+    // Tells `finished` the ranges of every run that ends whole, for the calculation package.
+    void OnRunFinished(std::function<void(const std::vector<std::string>&)> finished) {
+        m_finishedRun = std::move(finished);
+    }
     // Draws the chart shown into an image, or writes it as SVG.
     QImage ChartImage() const;
     bool WriteSvg(const QString& path) const;
@@ -54,6 +59,7 @@ class SensitivityView : public QDialog {
     std::atomic<bool> m_finished{false};
     std::atomic<bool> m_stop{false};
     std::jthread m_worker;
+    std::function<void(const std::vector<std::string>&)> m_finishedRun;
 
     QButtonGroup* m_pair;
     QComboBox* m_field;

@@ -40,6 +40,7 @@ AnalysisResult AnalysisReset(Program& program, ShellServices& services) {
         return AnalysisResult::Stopped;
     }
     program.input.visible = false;
+    program.sensitivityRanges.clear();
 
     const EngineSettings settings = program.settings.options.engineSettings();
     const ResultsRun run =

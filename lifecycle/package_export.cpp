@@ -49,7 +49,9 @@ PackageExportDialog OpenPackageExportDialog(ShellServices& services) {
 
 PackageExportDialog AcceptPackageExportDialog(ShellServices& services,
                                               const PackageExportDialog& dialog) {
-    const PackageExportDialog accepted{Trimmed(dialog.firm), Trimmed(dialog.license)};
+    PackageExportDialog accepted = dialog;
+    accepted.firm = Trimmed(dialog.firm);
+    accepted.license = Trimmed(dialog.license);
     SettingsKey key;
     if (OpenSection(services.store, services.dialogs, "Software",
                     SettingsSectionPath(PackageSettingsSection), key)) {
@@ -86,4 +88,9 @@ PackageInfo PackageInfoOf(const Program& program, const PackageExportDialog& dia
                       : std::string("none: the input on screen is not saved in the project file"),
                   clock.TodayLongDate(), clock.TimeOfDay()};
     return info;
+}
+
+void OfferSensitivityPage(PackageExportDialog& dialog, const Program& program) {
+    dialog.sensitivityRanges = program.sensitivityRanges;
+    dialog.sensitivityPage = !dialog.sensitivityRanges.empty();
 }

@@ -5,6 +5,7 @@
 #include "shell/shell_services.h"
 
 #include <string>
+#include <vector>
 
 // File > "Export Calculation Package...": the small dialog for the firm and the license number,
 // remembered in a settings group of their own, and the package of the analysis on screen. The
@@ -17,6 +18,10 @@ inline constexpr const char* PackageSettingsSection = "Calculation Package";
 struct PackageExportDialog {
     std::string firm;
     std::string license;
+    // The "Soil sensitivity" page (`chkSensitivity`): offered with the ranges of the last soil
+    // sensitivity run over the analysis on screen, and then ticked.
+    std::vector<std::string> sensitivityRanges;
+    bool sensitivityPage = false;
 };
 
 // The menu item is there only while an analysis is on screen, as printing is.
@@ -24,6 +29,10 @@ bool PackageExportAvailable(const Program& program);
 
 // The dialog as it opens: the firm and the license of the last export, empty the first time.
 PackageExportDialog OpenPackageExportDialog(ShellServices& services);
+
+// Offers the soil sensitivity page when a run has been made over the analysis on screen, ticked;
+// otherwise the page is neither offered nor ticked.
+void OfferSensitivityPage(PackageExportDialog& dialog, const Program& program);
 
 // OK: the texts without the blanks around them, each kept to the 254 characters the settings
 // store holds, written back to the settings group for the next export. Gives the dialog as

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "engine/design_record.h"
 #include "engine/results_record.h"
 #include "input/input_screen.h"
@@ -24,6 +27,10 @@ struct Program {
     PrintDialog print = LoadPrintDialog();
     // The inner width of the main window, in which the screens are centred.
     int mainInnerWidth = ResultsScreenWidth;
+    // The ranges ("EmCenter=2.75:8.25:0.1375", ...) of the last soil sensitivity run over the
+    // analysis on screen, which the calculation package offers as a page of its own; none before
+    // a run, and none again after the next analysis.
+    std::vector<std::string> sensitivityRanges;
 };
 
 // What the input screen's rules reach of the program.

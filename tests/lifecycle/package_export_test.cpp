@@ -56,3 +56,29 @@ TEST(PackageExport, NeedsResultsRemembersFirmAndLicenseAndTracesOnlySavedInput) 
     EXPECT_NE(info.trace.sha256, digest);
     EXPECT_NE(info.trace.sha256.find("not saved"), std::string::npos);
 }
+
+// The soil sensitivity page is offered, ticked, only after a sensitivity run over the analysis
+// on screen; OK keeps the choice; the next analysis withdraws it, since the run was of the values
+// analysed before.
+TEST(PackageExport, OffersTheSensitivityPageOnlyAfterARunOverTheAnalysis) {
+    LifecycleFixture f;
+    Program& p = f.program;
+    OpenRecentProject(p, f.services, f.Example("expansive_ribbed"));
+    ASSERT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
+    PackageExportDialog dialog = OpenPackageExportDialog(f.services);
+    OfferSensitivityPage(dialog, p);
+    EXPECT_TRUE(dialog.sensitivityRanges.empty());
+    EXPECT_FALSE(dialog.sensitivityPage);
+
+    p.sensitivityRanges = {"EmCenter=2.75:8.25:0.1375", "YmCenter=1.25:3.75:0.0625"};
+    OfferSensitivityPage(dialog, p);
+    EXPECT_EQ(dialog.sensitivityRanges, p.sensitivityRanges);
+    EXPECT_TRUE(dialog.sensitivityPage);
+    dialog.sensitivityPage = false; // the engineer unticks it
+    const PackageExportDialog accepted = AcceptPackageExportDialog(f.services, dialog);
+    EXPECT_FALSE(accepted.sensitivityPage);
+    EXPECT_EQ(accepted.sensitivityRanges, p.sensitivityRanges);
+
+    ASSERT_EQ(AnalysisReset(p, f.services), AnalysisResult::ResultsShown);
+    EXPECT_TRUE(p.sensitivityRanges.empty());
+}
