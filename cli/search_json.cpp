@@ -46,6 +46,13 @@ nlohmann::ordered_json SearchOutcomeJson(const SearchReportInput& report) {
     document["faulted"] = outcome.faulted;
     document["outOfCompliance"] = outcome.outOfCompliance;
     document["compliant"] = outcome.compliant;
+    document["refusals"] = nlohmann::ordered_json::array();
+    for (const RefusalCount& refusal : outcome.refusals) {
+        nlohmann::ordered_json entry;
+        entry["message"] = refusal.message;
+        entry["count"] = refusal.count;
+        document["refusals"].push_back(std::move(entry));
+    }
     document["best"] = nlohmann::ordered_json::array();
     for (const CandidateScore& score : outcome.best) {
         document["best"].push_back(designJson(report, score));

@@ -8,6 +8,9 @@
 
 namespace {
 
+// How many reasons of each kind the listing names.
+constexpr std::size_t ListedReasons = 5;
+
 std::string objectiveWords(SearchObjective objective) {
     switch (objective) {
     case SearchObjective::Concrete:
@@ -88,6 +91,30 @@ std::vector<std::string> designRow(const SearchReportInput& report, const Candid
     return cells;
 }
 
+// The messages that refused the most candidates, under the counts: what to change first when a
+// search finds little.
+void printRefusals(const std::vector<RefusalCount>& refusals, std::ostream& out) {
+    if (refusals.empty()) {
+        return;
+    }
+    const std::size_t shown = std::min(refusals.size(), ListedReasons);
+    out << "\nRefused most often by";
+    if (shown < refusals.size()) {
+        out << " (" << shown << " of " << refusals.size() << " messages)";
+    }
+    out << ":\n";
+    // The counts to the right, the messages after them to the left.
+    std::size_t width = 0;
+    for (std::size_t i = 0; i < shown; ++i) {
+        width = std::max(width, count(refusals[i].count).size());
+    }
+    for (std::size_t i = 0; i < shown; ++i) {
+        const std::string number = count(refusals[i].count);
+        out << "  " << std::string(width - number.size(), ' ') << number << "  "
+            << refusals[i].message << '\n';
+    }
+}
+
 } // namespace
 
 std::string VariedValueText(const VariedField& field, std::int64_t place) {
@@ -122,6 +149,7 @@ void PrintSearchListing(const std::filesystem::path& project, const SearchReport
                   {"  out of compliance", count(outcome.outOfCompliance)},
                   {"  compliant", count(outcome.compliant)}},
                  out, FirstColumn::Left);
+    printRefusals(outcome.refusals, out);
     if (outcome.best.empty()) {
         out << "\nNo candidate is within every limit without a PTI exception.\n";
         return;

@@ -7,6 +7,7 @@
 #include "search/candidate_score.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 // What became of one candidate: stopped by the value checks the program runs before every
@@ -33,6 +34,8 @@ class CandidateRunner {
     CandidateVerdict run(std::int64_t index);
     // The score of the last candidate run, when it was compliant.
     const CandidateScore& score() const { return m_score; }
+    // The message of the value check that refused the last candidate run, when it was refused.
+    const std::string& refusal() const { return m_refusal; }
 
   private:
     const DesignRecord& m_project;
@@ -47,4 +50,5 @@ class CandidateRunner {
     ResultsRecord m_results;
     EquivalentDepthMemo m_memo;
     CandidateScore m_score;
+    std::string m_refusal;
 };

@@ -29,6 +29,7 @@ struct ThreadFindings {
     std::int64_t faulted = 0;
     std::int64_t outOfCompliance = 0;
     std::int64_t compliant = 0;
+    RefusalTally refusals;
     BestCandidates best;
     ParetoFront pareto;
     std::exception_ptr failure;
@@ -65,6 +66,7 @@ ThreadFindings tryCandidates(const SearchRequest& request, const SearchControl& 
             switch (runner.run(index)) {
             case CandidateVerdict::Refused:
                 ++findings.refused;
+                findings.refusals.add(runner.refusal());
                 break;
             case CandidateVerdict::Faulted:
                 ++findings.faulted;
@@ -136,6 +138,7 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
     SearchOutcome outcome;
     BestCandidates best(request.objective, request.best);
     ParetoFront pareto;
+    RefusalTally refusals;
     for (const ThreadFindings& mine : findings) {
         if (mine.failure) {
             std::rethrow_exception(mine.failure);
@@ -145,10 +148,12 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
         outcome.faulted += mine.faulted;
         outcome.outOfCompliance += mine.outOfCompliance;
         outcome.compliant += mine.compliant;
+        refusals.merge(mine.refusals);
         best.merge(mine.best);
         pareto.merge(mine.pareto);
     }
     outcome.interrupted = outcome.tried < request.grid.count();
+    outcome.refusals = refusals.ranked();
     outcome.best = best.ranked();
     outcome.pareto = pareto.designs();
     return outcome;

@@ -4,6 +4,7 @@
 #include "search/candidate_grid.h"
 #include "search/candidate_run.h"
 #include "search/candidate_score.h"
+#include "search/refusal_tally.h"
 
 #include <atomic>
 #include <cstddef>
@@ -39,6 +40,9 @@ struct SearchOutcome {
     std::int64_t faulted = 0;
     std::int64_t outOfCompliance = 0;
     std::int64_t compliant = 0;
+    // The refused candidates by the message of the value check that refused them, most frequent
+    // first; the counts add up to `refused`.
+    std::vector<RefusalCount> refusals;
     // The stop flag was set before every candidate was tried.
     bool interrupted = false;
     // The best compliant candidates, best first, and the front of concrete against tendon
