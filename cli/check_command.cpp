@@ -6,26 +6,13 @@
 #include "cli/input_check.h"
 #include "cli/project_loading.h"
 #include "cli/results_summary.h"
-#include "cli/run_fault_json.h"
+#include "cli/run_fault.h"
 #include "output/results_run.h"
 
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
 #include <string>
-
-namespace {
-
-std::string FaultText(const RunFault& fault) {
-    if (fault.place == RunFaultPlace::DesignExceptions) {
-        return FaultKindName(fault.kind) +
-               " in the beam depth ratio of the design exceptions: a direction has no beam "
-               "group with both a depth and a quantity";
-    }
-    return RunFaultText(fault);
-}
-
-} // namespace
 
 int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream& err) {
     int failureStatus = ExitAnalysed;
@@ -59,7 +46,7 @@ int RunCheckCommand(const CheckOptions& options, std::ostream& out, std::ostream
         out << document.dump(2) << '\n';
     } else if (fault) {
         err << "korvath3-cli: the check of " << options.project.string()
-            << " ended in a fault: " << FaultText(*fault) << ". No lists are given.\n";
+            << " ended in a fault: " << RunFaultWithCause(*fault) << ". No lists are given.\n";
     } else {
         PrintProjectHeading("compliance check", options.project, loaded->version, options.settings,
                             record, out);

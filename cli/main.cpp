@@ -59,8 +59,10 @@ int main(int argc, char** argv) {
     const std::vector<Subcommand> subcommands = {
         AddAnalyzeSubcommand(app),
         AddCheckSubcommand(app),
+        AddChecksSubcommand(app),
         AddResultsSubcommand(app),
         AddReportSubcommand(app),
+        AddSketchSubcommand(app),
         AddUpgradeSubcommand(app),
         AddNewSubcommand(app),
         AddOptimizeSubcommand(app, RunInterruptibleSearch),

@@ -3,7 +3,7 @@
 #include "cli/exit_status.h"
 #include "cli/input_check.h"
 #include "cli/project_loading.h"
-#include "cli/run_fault_json.h"
+#include "cli/run_fault.h"
 #include "cli/stderr_dialogs.h"
 #include "output/results_run.h"
 #include "reports/page_frame.h"

@@ -6,7 +6,7 @@
 #include "cli/results_json.h"
 #include "cli/results_listing.h"
 #include "cli/results_summary.h"
-#include "cli/run_fault_json.h"
+#include "cli/run_fault.h"
 #include "output/results_run.h"
 #include "output/results_tabs.h"
 

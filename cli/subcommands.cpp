@@ -3,10 +3,13 @@
 #include "cli/analysis_flags.h"
 #include "cli/analyze_command.h"
 #include "cli/check_command.h"
+#include "cli/checks_command.h"
 #include "cli/exit_status.h"
+#include "cli/json_error.h"
 #include "cli/new_command.h"
 #include "cli/report_command.h"
 #include "cli/results_command.h"
+#include "cli/sketch_command.h"
 #include "cli/upgrade_command.h"
 
 #include <QGuiApplication>
@@ -43,6 +46,21 @@ template <typename Options> struct AnalysingLine {
     }
 };
 
+// Runs a command that measures or draws text through the desktop's font system, without a
+// window: the report and the drawings.
+int WithFonts(const std::function<int()>& command) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    // Qt's own notices (a missing runtime folder, ...) are no concern of a batch run.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    char programName[] = "korvath3-cli";
+    char* qtArgv[] = {programName, nullptr};
+    int qtArgc = 1;
+    QGuiApplication fonts(qtArgc, qtArgv);
+    return command();
+}
+
 } // namespace
 
 Subcommand AddAnalyzeSubcommand(CLI::App& app) {
@@ -69,6 +87,22 @@ Subcommand AddCheckSubcommand(CLI::App& app) {
                 CheckOptions options = line->over(settings);
                 options.colour = ColourOnStandardOutput();
                 return RunCheckCommand(options, std::cout, std::cerr);
+            }};
+}
+
+Subcommand AddChecksSubcommand(CLI::App& app) {
+    auto line = std::make_shared<AnalysingLine<ChecksOptions>>();
+    CLI::App* command = app.add_subcommand(
+        "checks", "Analyse a project and print every check with its demand, limit and ratio, and "
+                  "the verdict of each foundation");
+    AddProjectAndJson(*command, line->options.project, line->options.json);
+    AddAnalysisOptions(*command, line->flags);
+    AddNoCheckFlag(*command, line->noCheck);
+    command->add_flag("--failing", line->options.failing, "List only the checks that are not ok");
+    return {command, [line](const ProgramSettings& settings) {
+                ChecksOptions options = line->over(settings);
+                options.colour = ColourOnStandardOutput();
+                return RunChecksCommand(options, std::cout, std::cerr);
             }};
 }
 
@@ -144,18 +178,42 @@ Subcommand AddReportSubcommand(CLI::App& app) {
                 options.range = line->range == "entire"     ? PrintRange::Entire
                                 : line->range == "selected" ? PrintRange::Selected
                                                             : PrintRange::Default;
-                // The report's fonts come from the desktop's font system, without a window.
-                if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-                    qputenv("QT_QPA_PLATFORM", "offscreen");
-                }
-                // Qt's own notices (a missing runtime folder, ...) are no concern of a batch run.
-                qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-                char programName[] = "korvath3-cli";
-                char* qtArgv[] = {programName, nullptr};
-                int qtArgc = 1;
-                QGuiApplication fonts(qtArgc, qtArgv);
-                return RunReportCommand(options, std::cout, std::cerr);
+                return WithFonts(
+                    [&options] { return RunReportCommand(options, std::cout, std::cerr); });
             }};
+}
+
+Subcommand AddSketchSubcommand(CLI::App& app) {
+    struct SketchLine {
+        SketchOptions options;
+        bool noCheck = false;
+    };
+    auto line = std::make_shared<SketchLine>();
+    SketchOptions& sketch = line->options;
+    CLI::App* command = app.add_subcommand(
+        "sketch", "Draw the plan and typical sections of a project as SVG, PNG or PDF");
+    command->add_option("PROJECT", sketch.project, "Project file (.kvt)")->required();
+    command->add_option("-o,--output", sketch.output,
+                        "The drawing to write: FILE.svg, FILE.png or FILE.pdf");
+    command->add_flag("--json", sketch.json, "Print the plan's geometry as JSON instead");
+    command->add_flag("--no-check", line->noCheck,
+                      "Draw the record as it stands, without input checks");
+    return {
+        command, [line](const ProgramSettings& settings) {
+            SketchOptions options = line->options;
+            if (options.output.empty() == !options.json) {
+                std::cerr << "korvath3-cli sketch: give either --output or --json\n";
+                if (options.json) {
+                    PrintJsonError({ExitBadUsage, "give either --output or --json", ""}, std::cout);
+                }
+                return static_cast<int>(ExitBadUsage);
+            }
+            options.check = !line->noCheck;
+            options.settings = settings.options.engineSettings();
+            options.defaults = settings.defaults;
+            return WithFonts(
+                [&options] { return RunSketchCommand(options, std::cout, std::cerr); });
+        }};
 }
 
 Subcommand AddUpgradeSubcommand(CLI::App& app) {

@@ -17,8 +17,10 @@ struct Subcommand {
 // and errors to standard error.
 Subcommand AddAnalyzeSubcommand(CLI::App& app);
 Subcommand AddCheckSubcommand(CLI::App& app);
+Subcommand AddChecksSubcommand(CLI::App& app);
 Subcommand AddResultsSubcommand(CLI::App& app);
 Subcommand AddReportSubcommand(CLI::App& app);
+Subcommand AddSketchSubcommand(CLI::App& app);
 Subcommand AddUpgradeSubcommand(CLI::App& app);
 Subcommand AddNewSubcommand(CLI::App& app);
 // The search runs through `runSearch`, which may catch the terminal's interrupt around it.

@@ -16,21 +16,19 @@ CompliancePass RunCompliancePass(const DesignRecord& record, const ResultsRecord
     CompliancePass pass;
 
     RibbedCounters& rc = pass.ribbed.counters;
-    RibbedCompliance(record, results, rc.centerLift, rc.edgeLift, rc.centerDown, rc.edgeDown,
-                     rc.bearing, rc.cracked, flags.ShowAllRibbed, pass.ribbed.box);
+    RibbedCompliance(record, results, rc, flags.ShowAllRibbed, pass.ribbed.box);
     pass.RibbedOutCount = RibbedOutCountFor(record.SoilType, rc);
 
     if (record.FlatSlab == 1) {
         pass.uniform.emplace();
         UniformCounters& uc = pass.uniform->counters;
-        UniformCompliance(record, results, pass.RibbedOutCount, uc.centerLift, uc.edgeLift,
-                          uc.centerDown, uc.edgeDown, flags.ShowAllUniform, pass.uniform->box);
+        UniformCompliance(record, results, pass.RibbedOutCount, uc, flags.ShowAllUniform,
+                          pass.uniform->box);
     }
     if (record.LineLoadType == 1) {
         pass.lineLoad.emplace();
         LineLoadCounters& lc = pass.lineLoad->counters;
-        LineLoadCompliance(record, results, lc.ribbed, lc.uniform, flags.ShowAllLineLoad,
-                           pass.lineLoad->box);
+        LineLoadCompliance(record, results, lc, flags.ShowAllLineLoad, pass.lineLoad->box);
     }
 
     RibbedExceptions(record, results, pass.ribbedExceptions.count, pass.ribbedExceptions.box);

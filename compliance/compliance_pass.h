@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/styled_text.h"
+#include "compliance/compliance_counters.h"
 #include "engine/design_record.h"
 #include "engine/results_record.h"
 
@@ -13,27 +14,6 @@ struct ShowAllFlags {
     std::int16_t ShowAllRibbed = 0;
     std::int16_t ShowAllUniform = 0;
     std::int16_t ShowAllLineLoad = 0;
-};
-
-struct RibbedCounters {
-    std::int16_t centerLift = 0;
-    std::int16_t edgeLift = 0;
-    std::int16_t centerDown = 0;
-    std::int16_t edgeDown = 0;
-    std::int16_t bearing = 0;
-    std::int16_t cracked = 0;
-};
-
-struct UniformCounters {
-    std::int16_t centerLift = 0;
-    std::int16_t edgeLift = 0;
-    std::int16_t centerDown = 0;
-    std::int16_t edgeDown = 0;
-};
-
-struct LineLoadCounters {
-    std::int16_t ribbed = 0;
-    std::int16_t uniform = 0;
 };
 
 template <typename Counters> struct ComplianceList {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/styled_text.h"
+#include "compliance/compliance_counters.h"
 #include "compliance/list_lines.h"
 #include "engine/design_record.h"
 #include "engine/results_record.h"
@@ -15,37 +16,29 @@
 
 // The ribbed foundation: soil bearing, then center lift and edge lift on expansive soil
 // (`SoilType` 0) or center down and, with `CLSettleState` 1, edge down on compressible soil
-// (`SoilType` 1). Bearing is set to 1 when it fails. The cracked capacity rows of both lift modes
+// (`SoilType` 1). `bearing` is set to 1 when it fails. The cracked capacity rows of both lift modes
 // count in `cracked`.
 void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
-                      std::int16_t& centerLift, std::int16_t& edgeLift, std::int16_t& centerDown,
-                      std::int16_t& edgeDown, std::int16_t& bearing, std::int16_t& cracked,
-                      std::int16_t showAll, StyledText& box);
+                      RibbedCounters& counters, std::int16_t showAll, StyledText& box);
 
 // The uniform thickness foundation, headed by the ribbed foundation's compliance
 // (`ribbedOutCount`); its cracked rows count in the center lift and edge lift counters.
 void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
-                       std::int16_t ribbedOutCount, std::int16_t& centerLift,
-                       std::int16_t& edgeLift, std::int16_t& centerDown, std::int16_t& edgeDown,
-                       std::int16_t showAll, StyledText& box);
+                       std::int16_t ribbedOutCount, UniformCounters& counters, std::int16_t showAll,
+                       StyledText& box);
 
 // The line load, on the ribbed foundation's slab and, with `FlatSlab` 1, on the uniform
 // thickness slab.
 void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
-                        std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
-                        StyledText& box);
+                        LineLoadCounters& counters, std::int16_t showAll, StyledText& box);
 
 // The same three lists into a list target (compliance/list_lines.h): appended to its box when
 // it has one, which is not emptied first, or only counted when it has none. Every row notes its
 // margin in the target.
 void RibbedCompliance(const DesignRecord& record, const ResultsRecord& results,
-                      std::int16_t& centerLift, std::int16_t& edgeLift, std::int16_t& centerDown,
-                      std::int16_t& edgeDown, std::int16_t& bearing, std::int16_t& cracked,
-                      std::int16_t showAll, ListTarget& target);
+                      RibbedCounters& counters, std::int16_t showAll, ListTarget& target);
 void UniformCompliance(const DesignRecord& record, const ResultsRecord& results,
-                       std::int16_t ribbedOutCount, std::int16_t& centerLift,
-                       std::int16_t& edgeLift, std::int16_t& centerDown, std::int16_t& edgeDown,
-                       std::int16_t showAll, ListTarget& target);
+                       std::int16_t ribbedOutCount, UniformCounters& counters, std::int16_t showAll,
+                       ListTarget& target);
 void LineLoadCompliance(const DesignRecord& record, const ResultsRecord& results,
-                        std::int16_t& ribbed, std::int16_t& uniform, std::int16_t showAll,
-                        ListTarget& target);
+                        LineLoadCounters& counters, std::int16_t showAll, ListTarget& target);

@@ -33,17 +33,14 @@ ComplianceTally TallyCompliance(const DesignRecord& record, const ResultsRecord&
     ListTarget target;
 
     RibbedCounters& rc = tally.ribbed;
-    RibbedCompliance(record, results, rc.centerLift, rc.edgeLift, rc.centerDown, rc.edgeDown,
-                     rc.bearing, rc.cracked, 0, target);
+    RibbedCompliance(record, results, rc, 0, target);
     tally.RibbedOutCount = RibbedOutCountFor(record.SoilType, rc);
     if (record.FlatSlab == 1) {
         UniformCounters& uc = tally.uniform;
-        UniformCompliance(record, results, tally.RibbedOutCount, uc.centerLift, uc.edgeLift,
-                          uc.centerDown, uc.edgeDown, 0, target);
+        UniformCompliance(record, results, tally.RibbedOutCount, uc, 0, target);
     }
     if (record.LineLoadType == 1) {
-        LineLoadCompliance(record, results, tally.lineLoad.ribbed, tally.lineLoad.uniform, 0,
-                           target);
+        LineLoadCompliance(record, results, tally.lineLoad, 0, target);
     }
 
     tally.ribbedExceptions = brokenCount(RibbedRulesBroken(record, results));

@@ -43,21 +43,29 @@ BeamRulesBroken BeamRulesBrokenBy(const DesignRecord& record) {
 // only when it is present and deeper than the first; the first group's depth counts as the
 // deepest whether it is present or not. The shallowest is taken from the present groups with a
 // depth.
-Real DepthRatio(std::int16_t quantity1, double depth1, std::int16_t quantity2, double depth2) {
+//
+// `names` are the four quotients a direction can have: first over first, first over second,
+// second over first, second over second.
+using RatioNames = std::array<const char*, 4>;
+BeamDepthRatio DepthRatio(const RatioNames& names, std::int16_t quantity1, double depth1,
+                          std::int16_t quantity2, double depth2) {
+    bool deepestIsSecond = false;
     double deepest = depth1;
     if (quantity2 != 0 && depth2 > depth1) {
-        deepest = depth2;
+        deepestIsSecond = true, deepest = depth2;
     }
+    bool shallowestIsSecond = false;
     double shallowest = 0;
     if (depth1 != 0 && quantity1 != 0) {
         shallowest = depth1;
     }
     if (depth2 != 0 && quantity2 != 0) {
         if (!(shallowest != 0 && depth2 >= shallowest)) {
-            shallowest = depth2;
+            shallowestIsSecond = true, shallowest = depth2;
         }
     }
-    return Real(deepest) / shallowest;
+    const double ratio = Real(deepest) / shallowest;
+    return {names[(deepestIsSecond ? 2 : 0) + (shallowestIsSecond ? 1 : 0)], ratio};
 }
 
 void ReportException(StyledText& box, std::int16_t& count,
@@ -73,23 +81,48 @@ constexpr const char* NoExceptions = "NO PTI EXCEPTIONS EXIST";
 
 } // namespace
 
-RibbedRules RibbedRulesBroken(const DesignRecord& record, const ResultsRecord& results) {
-    RibbedRules broken{};
+BeamDepthRatio ShortDepthRatio(const DesignRecord& record) {
+    static constexpr RatioNames names{"DS1 / DS1", "DS1 / DS2", "DS2 / DS1", "DS2 / DS2"};
+    return DepthRatio(names, record.QS1, record.DS1, record.QS2, record.DS2);
+}
+
+BeamDepthRatio LongDepthRatio(const DesignRecord& record) {
+    static constexpr RatioNames names{"DL1 / DL1", "DL1 / DL2", "DL2 / DL1", "DL2 / DL2"};
+    return DepthRatio(names, record.QL1, record.DL1, record.QL2, record.DL2);
+}
+
+RibbedRuleTests TestRibbedRules(const DesignRecord& record, const ResultsRecord& results) {
+    RibbedRuleTests broken;
     const BeamRulesBroken beams = BeamRulesBrokenBy(record);
-    broken[0] = beams.tooNarrow;
-    broken[1] = beams.tooWide;
-    broken[2] = beams.tooShallow;
-    broken[3] = beams.notBelowSlab;
-    const Real ratioShort = DepthRatio(record.QS1, record.DS1, record.QS2, record.DS2);
-    const Real ratioLong = DepthRatio(record.QL1, record.DL1, record.QL2, record.DL2);
-    broken[4] = ratioShort > 1.2 || ratioLong > 1.2;
+    broken.beamWidthMin = beams.tooNarrow;
+    broken.beamWidthMax = beams.tooWide;
+    broken.beamDepthMin = beams.tooShallow;
+    broken.beamBelowSlab = beams.notBelowSlab;
+    // Both ratios are worked out before either is looked at, so that a direction without beams
+    // faults whatever the other gives.
+    const double ratioShort = ShortDepthRatio(record).ratio;
+    const double ratioLong = LongDepthRatio(record).ratio;
+    broken.beamDepthRatio = {ratioShort > 1.2, ratioLong > 1.2};
     // The spacings used in the analysis, after the six foot rule has lifted them.
-    broken[5] = results.SpacingShort > 15 || results.SpacingLong > 15;
-    broken[6] = (results.SpacingShort < 6 || results.SpacingLong < 6) && record.SixFtRule == 0;
+    broken.beamSpacingMax = {results.SpacingShort > 15, results.SpacingLong > 15};
+    broken.beamSpacingMin = {results.SpacingShort < 6 && record.SixFtRule == 0,
+                             results.SpacingLong < 6 && record.SixFtRule == 0};
     // The texts say "greater than", but exactly 50 psi and exactly 2500 psi pass.
-    broken[7] = results.PsCenterShort < 50 || results.PsCenterLong < 50;
-    broken[8] = record.Fpc < 2500;
+    broken.residualPrestress = {results.PsCenterShort < 50, results.PsCenterLong < 50};
+    broken.concreteStrength = record.Fpc < 2500;
     return broken;
+}
+
+RibbedRules RibbedRulesBroken(const DesignRecord& record, const ResultsRecord& results) {
+    const RibbedRuleTests t = TestRibbedRules(record, results);
+    const auto either = [](const DirectionRule& rule) {
+        return rule.shortDirection || rule.longDirection;
+    };
+    return {t.beamWidthMin,           t.beamWidthMax,
+            t.beamDepthMin,           t.beamBelowSlab,
+            either(t.beamDepthRatio), either(t.beamSpacingMax),
+            either(t.beamSpacingMin), either(t.residualPrestress),
+            t.concreteStrength};
 }
 
 void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, std::int16_t& count,

@@ -27,6 +27,37 @@ void RibbedExceptions(const DesignRecord& record, const ResultsRecord& results, 
 using RibbedRules = std::array<bool, 9>;
 RibbedRules RibbedRulesBroken(const DesignRecord& record, const ResultsRecord& results);
 
+// A rule of the manual that each direction is held to by itself.
+struct DirectionRule {
+    bool shortDirection = false;
+    bool longDirection = false;
+};
+
+// The same nine rules, broken or not, with the rules of the beam depth ratio, the spacings and
+// the residual prestress for each direction apart; RibbedRulesBroken is made from them.
+struct RibbedRuleTests {
+    bool beamWidthMin = false;
+    bool beamWidthMax = false;
+    bool beamDepthMin = false;
+    bool beamBelowSlab = false;
+    DirectionRule beamDepthRatio;
+    DirectionRule beamSpacingMax;
+    DirectionRule beamSpacingMin;
+    DirectionRule residualPrestress;
+    bool concreteStrength = false;
+};
+RibbedRuleTests TestRibbedRules(const DesignRecord& record, const ResultsRecord& results);
+
+// The deepest beam depth of one direction over its shallowest, with the fields it divides
+// ("DS2 / DS1"). Throws ArithmeticFault for a direction without any beam group that has both a
+// depth and a quantity.
+struct BeamDepthRatio {
+    const char* name;
+    double ratio;
+};
+BeamDepthRatio ShortDepthRatio(const DesignRecord& record);
+BeamDepthRatio LongDepthRatio(const DesignRecord& record);
+
 // The two rules of the uniform thickness foundation in the order of its list, each true when
 // broken: the ribbed foundation it is derived from has exceptions (`ribbedCount`), and the slab
 // is under 7.5 in thick. None is broken without a uniform thickness foundation (`FlatSlab` 1).

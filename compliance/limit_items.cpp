@@ -5,18 +5,6 @@
 
 #include <string>
 
-bool WithinLimit(const LimitItem& item) {
-    switch (item.kind) {
-    case LimitKind::Tension:
-        return item.value >= item.limit;
-    case LimitKind::Compression:
-        return item.limit / 1000 >= item.value;
-    case LimitKind::AtMost:
-        return item.value <= item.limit;
-    }
-    return false;
-}
-
 std::string ItemText(const char* label, double excess) {
     return label + FormatNumber(excess, "#,##0.0") + "%";
 }
@@ -35,10 +23,10 @@ void appendLimitLine(ListTarget& target, const char* label, double excess, bool 
 void ListItems(ListTarget& target, std::span<const LimitItem> items, std::int16_t& counter,
                bool showAll) {
     for (const LimitItem& item : items) {
-        const bool over = !WithinLimit(item);
-        NoteMargin(target, item.excess);
+        const bool over = !RowWithinLimit(item.row);
+        NoteMargin(target, item.row.excess);
         if (over || showAll) {
-            appendLimitLine(target, item.label, item.excess, over);
+            appendLimitLine(target, item.label, item.row.excess, over);
         }
         if (over) {
             CountItem(counter);
@@ -46,25 +34,28 @@ void ListItems(ListTarget& target, std::span<const LimitItem> items, std::int16_
     }
 }
 
+// Center lift looks at the flag only to choose the text of a row over its limit: a capacity that
+// could not be calculated is 0, and a positive demand is over it.
 bool ListCenterLiftCracked(ListTarget& target, const CrackedItem& item, bool showAll) {
-    const bool over = !(item.demand <= item.capacity);
-    if (item.valid != 0) {
-        NoteMargin(target, item.excess);
+    const CheckedRow& row = item.row;
+    const bool over = !RowWithinLimit(row);
+    if (row.valid != 0) {
+        NoteMargin(target, row.excess);
     }
     if (over) {
-        if (item.valid != 0) {
-            appendLimitLine(target, item.label, item.excess, true);
+        if (row.valid != 0) {
+            appendLimitLine(target, item.label, row.excess, true);
         } else {
             AppendItemLine(target, item.notCalculated, true);
         }
     } else if (showAll) {
-        appendLimitLine(target, item.label, item.excess, false);
+        appendLimitLine(target, item.label, row.excess, false);
     }
     return over;
 }
 
 bool ListEdgeLiftCracked(ListTarget& target, const CrackedItem& item, bool showAll) {
-    if (item.valid == 0) {
+    if (item.row.valid == 0) {
         AppendItemLine(target, item.notCalculated, true);
         return true;
     }

@@ -1,28 +1,17 @@
 #pragma once
 
+#include "compliance/checked_rows.h"
 #include "compliance/list_lines.h"
 
 #include <cstdint>
 #include <span>
 #include <string>
 
-// One value held against its limit, as a row of a compliance list. Every comparison allows
-// equality.
-enum class LimitKind {
-    Tension,     // within when the stress is at least the allowable tension (both negative, ksi)
-    Compression, // within when the allowable compression in psi / 1000 is at least the stress
-    AtMost,      // within when the value is at most the limit: deflection, inertia, shear
-};
-
+// One checked row (compliance/checked_rows.h) as an item of a compliance list, with its label.
 struct LimitItem {
     const char* label;
-    double value;
-    double limit;
-    LimitKind kind;
-    double excess; // percent by which the value exceeds the limit
+    CheckedRow row;
 };
-
-bool WithinLimit(const LimitItem& item);
 
 // The item's text: its label, then the excess in "#,##0.0", then "%".
 std::string ItemText(const char* label, double excess);
@@ -37,10 +26,7 @@ void ListItems(ListTarget& target, std::span<const LimitItem> items, std::int16_
 struct CrackedItem {
     const char* label;
     const char* notCalculated; // the whole text of the row when the capacity is missing
-    double demand;
-    double capacity;
-    std::int16_t valid;
-    double excess;
+    CheckedRow row;
 };
 
 // Center lift: the flag is looked at only for a row over its limit, whose text it chooses.

@@ -5,24 +5,8 @@
 
 namespace {
 
-LimitItem Tension(const char* label, const DirectionValues& d, double allowTension) {
-    return {label, d.tension, allowTension, LimitKind::Tension, d.tensionExcess};
-}
-
-LimitItem Compression(const char* label, const DirectionValues& d, double allowCompression) {
-    return {label, d.compression, allowCompression, LimitKind::Compression, d.compressionExcess};
-}
-
-LimitItem Demand(const char* label, const DirectionValues& d) {
-    return {label, d.demand, d.allowed, LimitKind::AtMost, d.demandExcess};
-}
-
-LimitItem Shear(const char* label, const DirectionValues& d) {
-    return {label, d.shear, d.allowShear, LimitKind::AtMost, d.shearExcess};
-}
-
-CrackedItem Cracked(const char* label, const char* notCalculated, const DirectionValues& d) {
-    return {label, notCalculated, d.crackDemand, d.crackCapacity, d.crackValid, d.crackExcess};
+CrackedItem Cracked(const char* label, const char* notCalculated, const DirectionRows& d) {
+    return {label, notCalculated, d.cracked};
 }
 
 // The stress labels of center lift and of both compressible modes have two blanks after
@@ -40,23 +24,22 @@ constexpr const char* ShearLong = "SHEAR STRESS IN LONG DIRECTION : ";
 
 } // namespace
 
-std::int16_t ListLiftRows(ListTarget& target, LiftMode mode, const ModeValues& values,
-                          double allowTension, double allowCompression, std::int16_t& counter,
-                          std::int16_t& crackedCounter, bool showAll) {
-    const DirectionValues& s = values.shortDirection;
-    const DirectionValues& l = values.longDirection;
+std::int16_t ListLiftRows(ListTarget& target, LiftMode mode, const ModeRows& rows,
+                          std::int16_t& counter, std::int16_t& crackedCounter, bool showAll) {
+    const DirectionRows& s = rows.shortDirection;
+    const DirectionRows& l = rows.longDirection;
     // Center lift lists tension first; edge lift compression first.
     const LimitItem centerLiftStresses[] = {
-        Tension(TensionShort, s, allowTension),
-        Compression(CompressionShort, s, allowCompression),
-        Tension(TensionLongTwoBlanks, l, allowTension),
-        Compression(CompressionLongTwoBlanks, l, allowCompression),
+        LimitItem{TensionShort, s.tension},
+        LimitItem{CompressionShort, s.compression},
+        LimitItem{TensionLongTwoBlanks, l.tension},
+        LimitItem{CompressionLongTwoBlanks, l.compression},
     };
     const LimitItem edgeLiftStresses[] = {
-        Compression(CompressionShort, s, allowCompression),
-        Tension(TensionShort, s, allowTension),
-        Compression(CompressionLong, l, allowCompression),
-        Tension(TensionLong, l, allowTension),
+        LimitItem{CompressionShort, s.compression},
+        LimitItem{TensionShort, s.tension},
+        LimitItem{CompressionLong, l.compression},
+        LimitItem{TensionLong, l.tension},
     };
     if (mode == LiftMode::CenterLift) {
         ListItems(target, centerLiftStresses, counter, showAll);
@@ -65,10 +48,10 @@ std::int16_t ListLiftRows(ListTarget& target, LiftMode mode, const ModeValues& v
     }
 
     const LimitItem stiffnessAndShear[] = {
-        Demand("STIFFNESS IN SHORT DIRECTION : ", s),
-        Demand("STIFFNESS IN LONG DIRECTION : ", l),
-        Shear(ShearShort, s),
-        Shear(ShearLong, l),
+        LimitItem{"STIFFNESS IN SHORT DIRECTION : ", s.demand},
+        LimitItem{"STIFFNESS IN LONG DIRECTION : ", l.demand},
+        LimitItem{ShearShort, s.shear},
+        LimitItem{ShearLong, l.shear},
     };
     ListItems(target, stiffnessAndShear, counter, showAll);
 
@@ -91,19 +74,18 @@ std::int16_t ListLiftRows(ListTarget& target, LiftMode mode, const ModeValues& v
     return crackedCounted;
 }
 
-void ListDownRows(ListTarget& target, const ModeValues& values, double allowTension,
-                  double allowCompression, std::int16_t& counter, bool showAll) {
-    const DirectionValues& s = values.shortDirection;
-    const DirectionValues& l = values.longDirection;
-    const LimitItem rows[] = {
-        Tension(TensionShort, s, allowTension),
-        Compression(CompressionShort, s, allowCompression),
-        Tension(TensionLongTwoBlanks, l, allowTension),
-        Compression(CompressionLongTwoBlanks, l, allowCompression),
-        Demand("DEFLECTION IN SHORT DIRECTION : ", s),
-        Demand("DEFLECTION IN LONG  DIRECTION : ", l),
-        Shear(ShearShort, s),
-        Shear(ShearLong, l),
+void ListDownRows(ListTarget& target, const ModeRows& rows, std::int16_t& counter, bool showAll) {
+    const DirectionRows& s = rows.shortDirection;
+    const DirectionRows& l = rows.longDirection;
+    const LimitItem items[] = {
+        LimitItem{TensionShort, s.tension},
+        LimitItem{CompressionShort, s.compression},
+        LimitItem{TensionLongTwoBlanks, l.tension},
+        LimitItem{CompressionLongTwoBlanks, l.compression},
+        LimitItem{"DEFLECTION IN SHORT DIRECTION : ", s.demand},
+        LimitItem{"DEFLECTION IN LONG  DIRECTION : ", l.demand},
+        LimitItem{ShearShort, s.shear},
+        LimitItem{ShearLong, l.shear},
     };
-    ListItems(target, rows, counter, showAll);
+    ListItems(target, items, counter, showAll);
 }

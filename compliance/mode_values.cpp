@@ -1,217 +1,53 @@
 #include "compliance/mode_values.h"
 
+#include "compliance/checked_rows.h"
+
+namespace {
+
+DirectionValues ValuesOf(const DirectionRows& rows) {
+    return {.tension = rows.tension.value.value,
+            .tensionExcess = rows.tension.excess,
+            .compression = rows.compression.value.value,
+            .compressionExcess = rows.compression.excess,
+            .demand = rows.demand.value.value,
+            .allowed = rows.demand.limit.value,
+            .demandExcess = rows.demand.excess,
+            .shear = rows.shear.value.value,
+            .allowShear = rows.shear.limit.value,
+            .shearExcess = rows.shear.excess,
+            .crackDemand = rows.cracked.value.value,
+            .crackCapacity = rows.cracked.limit.value,
+            .crackValid = rows.cracked.valid,
+            .crackExcess = rows.cracked.excess};
+}
+
+ModeValues ValuesOf(const ModeRows& rows) {
+    return {ValuesOf(rows.shortDirection), ValuesOf(rows.longDirection)};
+}
+
+} // namespace
+
 ModeValues CenterLiftValues(const ResultsRecord& r) {
-    return {{.tension = r.StressTopCLShort,
-             .tensionExcess = r.ExcessTopCLShort,
-             .compression = r.StressBotCLShort,
-             .compressionExcess = r.ExcessBotCLShort,
-             .demand = r.ReqInertiaCLShort,
-             .allowed = r.InertiaShort,
-             .demandExcess = r.ExcessStiffCLShort,
-             .shear = r.ShearCLShort,
-             .allowShear = r.AllowShearShort,
-             .shearExcess = r.ExcessShearCLShort,
-             .crackDemand = r.CrackDemandCLShort,
-             .crackCapacity = r.CrackCapacityCLShort,
-             .crackValid = r.CrackValidCLShort,
-             .crackExcess = r.ExcessCrackCLShort},
-            {.tension = r.StressTopCLLong,
-             .tensionExcess = r.ExcessTopCLLong,
-             .compression = r.StressBotCLLong,
-             .compressionExcess = r.ExcessBotCLLong,
-             .demand = r.ReqInertiaCLLong,
-             .allowed = r.InertiaLong,
-             .demandExcess = r.ExcessStiffCLLong,
-             .shear = r.ShearCLLong,
-             .allowShear = r.AllowShearLong,
-             .shearExcess = r.ExcessShearCLLong,
-             .crackDemand = r.CrackDemandCLLong,
-             .crackCapacity = r.CrackCapacityCLLong,
-             .crackValid = r.CrackValidCLLong,
-             .crackExcess = r.ExcessCrackCLLong}};
+    return ValuesOf(CenterLiftRows(r));
 }
-
 ModeValues EdgeLiftValues(const ResultsRecord& r) {
-    return {{.tension = r.StressBotELShort,
-             .tensionExcess = r.ExcessBotELShort,
-             .compression = r.StressTopELShort,
-             .compressionExcess = r.ExcessTopELShort,
-             .demand = r.ReqInertiaELShort,
-             .allowed = r.InertiaShort,
-             .demandExcess = r.ExcessStiffELShort,
-             .shear = r.ShearELShort,
-             .allowShear = r.AllowShearShort,
-             .shearExcess = r.ExcessShearELShort,
-             .crackDemand = r.CrackDemandELShort,
-             .crackCapacity = r.CrackCapacityELShort,
-             .crackValid = r.CrackValidELShort,
-             .crackExcess = r.ExcessCrackELShort},
-            {.tension = r.StressBotELLong,
-             .tensionExcess = r.ExcessBotELLong,
-             .compression = r.StressTopELLong,
-             .compressionExcess = r.ExcessTopELLong,
-             .demand = r.ReqInertiaELLong,
-             .allowed = r.InertiaLong,
-             .demandExcess = r.ExcessStiffELLong,
-             .shear = r.ShearELLong,
-             .allowShear = r.AllowShearLong,
-             .shearExcess = r.ExcessShearELLong,
-             .crackDemand = r.CrackDemandELLong,
-             .crackCapacity = r.CrackCapacityELLong,
-             .crackValid = r.CrackValidELLong,
-             .crackExcess = r.ExcessCrackELLong}};
+    return ValuesOf(EdgeLiftRows(r));
 }
-
 ModeValues CenterDownValues(const ResultsRecord& r) {
-    return {{.tension = r.StressBotCDShort,
-             .tensionExcess = r.ExcessBotCDShort,
-             .compression = r.StressTopCDShort,
-             .compressionExcess = r.ExcessTopCDShort,
-             .demand = r.NetDeflCDShort,
-             .allowed = r.AllowDeflCDShort,
-             .demandExcess = r.ExcessDeflCDShort,
-             .shear = r.ShearCDShort,
-             .allowShear = r.AllowShearShort,
-             .shearExcess = r.ExcessShearCDShort},
-            {.tension = r.StressBotCDLong,
-             .tensionExcess = r.ExcessBotCDLong,
-             .compression = r.StressTopCDLong,
-             .compressionExcess = r.ExcessTopCDLong,
-             .demand = r.NetDeflCDLong,
-             .allowed = r.AllowDeflCDLong,
-             .demandExcess = r.ExcessDeflCDLong,
-             .shear = r.ShearCDLong,
-             .allowShear = r.AllowShearLong,
-             .shearExcess = r.ExcessShearCDLong}};
+    return ValuesOf(CenterDownRows(r));
 }
-
 ModeValues EdgeDownValues(const ResultsRecord& r) {
-    return {{.tension = r.StressTopEDShort,
-             .tensionExcess = r.ExcessTopEDShort,
-             .compression = r.StressBotEDShort,
-             .compressionExcess = r.ExcessBotEDShort,
-             .demand = r.NetDeflEDShort,
-             .allowed = r.AllowDeflEDShort,
-             .demandExcess = r.ExcessDeflEDShort,
-             .shear = r.ShearEDShort,
-             .allowShear = r.AllowShearShort,
-             .shearExcess = r.ExcessShearEDShort},
-            {.tension = r.StressTopEDLong,
-             .tensionExcess = r.ExcessTopEDLong,
-             .compression = r.StressBotEDLong,
-             .compressionExcess = r.ExcessBotEDLong,
-             .demand = r.NetDeflEDLong,
-             .allowed = r.AllowDeflEDLong,
-             .demandExcess = r.ExcessDeflEDLong,
-             .shear = r.ShearEDLong,
-             .allowShear = r.AllowShearLong,
-             .shearExcess = r.ExcessShearEDLong}};
+    return ValuesOf(EdgeDownRows(r));
 }
-
 ModeValues UniformCenterLiftValues(const ResultsRecord& r) {
-    return {{.tension = r.UTStressTopCLShort,
-             .tensionExcess = r.UTExcessTopCLShort,
-             .compression = r.UTStressBotCLShort,
-             .compressionExcess = r.UTExcessBotCLShort,
-             .demand = r.UTReqInertiaCLShort,
-             .allowed = r.UTInertiaShort,
-             .demandExcess = r.UTExcessStiffCLShort,
-             .shear = r.UTShearCLShort,
-             .allowShear = r.UTAllowShearShort,
-             .shearExcess = r.UTExcessShearCLShort,
-             .crackDemand = r.UTCrackDemandCLShort,
-             .crackCapacity = r.UTCrackCapacityCLShort,
-             .crackValid = r.UTCrackValidCLShort,
-             .crackExcess = r.UTExcessCrackCLShort},
-            {.tension = r.UTStressTopCLLong,
-             .tensionExcess = r.UTExcessTopCLLong,
-             .compression = r.UTStressBotCLLong,
-             .compressionExcess = r.UTExcessBotCLLong,
-             .demand = r.UTReqInertiaCLLong,
-             .allowed = r.UTInertiaLong,
-             .demandExcess = r.UTExcessStiffCLLong,
-             .shear = r.UTShearCLLong,
-             .allowShear = r.UTAllowShearLong,
-             .shearExcess = r.UTExcessShearCLLong,
-             .crackDemand = r.UTCrackDemandCLLong,
-             .crackCapacity = r.UTCrackCapacityCLLong,
-             .crackValid = r.UTCrackValidCLLong,
-             .crackExcess = r.UTExcessCrackCLLong}};
+    return ValuesOf(UniformCenterLiftRows(r));
 }
-
 ModeValues UniformEdgeLiftValues(const ResultsRecord& r) {
-    return {{.tension = r.UTStressBotELShort,
-             .tensionExcess = r.UTExcessBotELShort,
-             .compression = r.UTStressTopELShort,
-             .compressionExcess = r.UTExcessTopELShort,
-             .demand = r.UTReqInertiaELShort,
-             .allowed = r.UTInertiaShort,
-             .demandExcess = r.UTExcessStiffELShort,
-             .shear = r.UTShearELShort,
-             .allowShear = r.UTAllowShearShort,
-             .shearExcess = r.UTExcessShearELShort,
-             .crackDemand = r.UTCrackDemandELShort,
-             .crackCapacity = r.UTCrackCapacityELShort,
-             .crackValid = r.UTCrackValidELShort,
-             .crackExcess = r.UTExcessCrackELShort},
-            {.tension = r.UTStressBotELLong,
-             .tensionExcess = r.UTExcessBotELLong,
-             .compression = r.UTStressTopELLong,
-             .compressionExcess = r.UTExcessTopELLong,
-             .demand = r.UTReqInertiaELLong,
-             .allowed = r.UTInertiaLong,
-             .demandExcess = r.UTExcessStiffELLong,
-             .shear = r.UTShearELLong,
-             .allowShear = r.UTAllowShearLong,
-             .shearExcess = r.UTExcessShearELLong,
-             .crackDemand = r.UTCrackDemandELLong,
-             .crackCapacity = r.UTCrackCapacityELLong,
-             .crackValid = r.UTCrackValidELLong,
-             .crackExcess = r.UTExcessCrackELLong}};
+    return ValuesOf(UniformEdgeLiftRows(r));
 }
-
 ModeValues UniformCenterDownValues(const ResultsRecord& r) {
-    return {{.tension = r.UTStressBotCDShort,
-             .tensionExcess = r.UTExcessBotCDShort,
-             .compression = r.UTStressTopCDShort,
-             .compressionExcess = r.UTExcessTopCDShort,
-             .demand = r.UTNetDeflCDShort,
-             .allowed = r.UTAllowDeflCDShort,
-             .demandExcess = r.UTExcessDeflCDShort,
-             .shear = r.UTShearCDShort,
-             .allowShear = r.UTAllowShearShort,
-             .shearExcess = r.UTExcessShearCDShort},
-            {.tension = r.UTStressBotCDLong,
-             .tensionExcess = r.UTExcessBotCDLong,
-             .compression = r.UTStressTopCDLong,
-             .compressionExcess = r.UTExcessTopCDLong,
-             .demand = r.UTNetDeflCDLong,
-             .allowed = r.UTAllowDeflCDLong,
-             .demandExcess = r.UTExcessDeflCDLong,
-             .shear = r.UTShearCDLong,
-             .allowShear = r.UTAllowShearLong,
-             .shearExcess = r.UTExcessShearCDLong}};
+    return ValuesOf(UniformCenterDownRows(r));
 }
-
 ModeValues UniformEdgeDownValues(const ResultsRecord& r) {
-    return {{.tension = r.UTStressTopEDShort,
-             .tensionExcess = r.UTExcessTopEDShort,
-             .compression = r.UTStressBotEDShort,
-             .compressionExcess = r.UTExcessBotEDShort,
-             .demand = r.UTNetDeflEDShort,
-             .allowed = r.UTAllowDeflEDShort,
-             .demandExcess = r.UTExcessDeflEDShort,
-             .shear = r.UTShearEDShort,
-             .allowShear = r.UTAllowShearShort,
-             .shearExcess = r.UTExcessShearEDShort},
-            {.tension = r.UTStressTopEDLong,
-             .tensionExcess = r.UTExcessTopEDLong,
-             .compression = r.UTStressBotEDLong,
-             .compressionExcess = r.UTExcessBotEDLong,
-             .demand = r.UTNetDeflEDLong,
-             .allowed = r.UTAllowDeflEDLong,
-             .demandExcess = r.UTExcessDeflEDLong,
-             .shear = r.UTShearEDLong,
-             .allowShear = r.UTAllowShearLong,
-             .shearExcess = r.UTExcessShearEDLong}};
+    return ValuesOf(UniformEdgeDownRows(r));
 }

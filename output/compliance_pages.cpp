@@ -80,18 +80,16 @@ void ClickDisplayAll(ResultsScreen& screen, std::string_view box, bool checked,
     if (box == "chkRibbedDC") {
         screen.flags.ShowAllRibbed = flag;
         RibbedCounters unused;
-        RibbedCompliance(record, results, unused.centerLift, unused.edgeLift, unused.centerDown,
-                         unused.edgeDown, unused.bearing, unused.cracked, flag, screen.rtbRibbedDC);
+        RibbedCompliance(record, results, unused, flag, screen.rtbRibbedDC);
     } else if (box == "chkUniformDC") {
         screen.flags.ShowAllUniform = flag;
         UniformCounters unused;
-        UniformCompliance(record, results, screen.RibbedOutCount, unused.centerLift,
-                          unused.edgeLift, unused.centerDown, unused.edgeDown, flag,
+        UniformCompliance(record, results, screen.RibbedOutCount, unused, flag,
                           screen.rtbUniformDC);
     } else if (box == "chkRibbedLLDC") {
         screen.flags.ShowAllLineLoad = flag;
         LineLoadCounters unused;
-        LineLoadCompliance(record, results, unused.ribbed, unused.uniform, flag, screen.rtbLLDC);
+        LineLoadCompliance(record, results, unused, flag, screen.rtbLLDC);
     } else {
         throw std::out_of_range("no Display all box named " + std::string(box));
     }

@@ -20,6 +20,9 @@ struct Colour {
 inline constexpr Colour Black{0, 0, 0};
 inline constexpr Colour Red{255, 0, 0};
 
+// How a line is drawn: solid, or in dashes (the slab tendons of a plan).
+enum class LineStyle { Solid, Dashed };
+
 class DrawingSurface {
   public:
     virtual ~DrawingSurface() = default;
@@ -36,6 +39,8 @@ class DrawingSurface {
     virtual void SetUnderline(bool underline) = 0;
     virtual void SetColour(Colour colour) = 0;
     virtual void SetLineWidth(int width) = 0;
+    // Solid until set otherwise.
+    virtual void SetLineStyle(LineStyle style) = 0;
 
     // The size of a text in the current font, in twips.
     virtual double TextWidth(std::string_view text) = 0;
@@ -43,6 +48,8 @@ class DrawingSurface {
 
     virtual void DrawText(double x, double y, std::string_view text) = 0;
     virtual void DrawLine(double x1, double y1, double x2, double y2) = 0;
+    // A rectangle filled with `fill` and without an outline, from its top left corner.
+    virtual void FillRectangle(double x, double y, double width, double height, Colour fill) = 0;
 
     virtual std::vector<std::string> FontNames() = 0;
     virtual std::string PrinterName() = 0;

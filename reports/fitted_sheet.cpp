@@ -17,6 +17,7 @@ class MeasuringSurface : public DrawingSurface {
     void SetUnderline(bool underline) override { m_surface.SetUnderline(underline); }
     void SetColour(Colour colour) override { m_surface.SetColour(colour); }
     void SetLineWidth(int width) override { m_surface.SetLineWidth(width); }
+    void SetLineStyle(LineStyle style) override { m_surface.SetLineStyle(style); }
     double TextWidth(std::string_view text) override { return m_surface.TextWidth(text); }
     double TextHeight(std::string_view text) override { return m_surface.TextHeight(text); }
     void DrawText(double, double y, std::string_view text) override {
@@ -26,6 +27,7 @@ class MeasuringSurface : public DrawingSurface {
         }
     }
     void DrawLine(double, double, double, double) override {}
+    void FillRectangle(double, double, double, double, Colour) override {}
     std::vector<std::string> FontNames() override { return m_surface.FontNames(); }
     std::string PrinterName() override { return m_surface.PrinterName(); }
     int PageNumber() override { return m_surface.PageNumber(); }

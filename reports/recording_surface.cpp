@@ -34,7 +34,11 @@ void RecordingSurface::DrawText(double x, double y, std::string_view text) {
 }
 
 void RecordingSurface::DrawLine(double x1, double y1, double x2, double y2) {
-    Current().lines.push_back({x1, y1, x2, y2, m_lineWidth, m_colour});
+    Current().lines.push_back({x1, y1, x2, y2, m_lineWidth, m_colour, m_lineStyle});
+}
+
+void RecordingSurface::FillRectangle(double x, double y, double width, double height, Colour fill) {
+    Current().rectangles.push_back({x, y, width, height, fill});
 }
 
 std::vector<std::string> RecordingSurface::FontNames() {

@@ -28,11 +28,21 @@ struct RecordedLine {
     double y2 = 0;
     int width = 1;
     Colour colour;
+    LineStyle style = LineStyle::Solid;
+};
+
+struct RecordedRectangle {
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+    Colour fill;
 };
 
 struct RecordedSheet {
     std::vector<RecordedText> texts;
     std::vector<RecordedLine> lines;
+    std::vector<RecordedRectangle> rectangles;
 };
 
 class RecordingSurface : public DrawingSurface {
@@ -46,10 +56,12 @@ class RecordingSurface : public DrawingSurface {
     void SetUnderline(bool underline) override { m_underline = underline; }
     void SetColour(Colour colour) override { m_colour = colour; }
     void SetLineWidth(int width) override { m_lineWidth = width; }
+    void SetLineStyle(LineStyle style) override { m_lineStyle = style; }
     double TextWidth(std::string_view text) override;
     double TextHeight(std::string_view text) override;
     void DrawText(double x, double y, std::string_view text) override;
     void DrawLine(double x1, double y1, double x2, double y2) override;
+    void FillRectangle(double x, double y, double width, double height, Colour fill) override;
     std::vector<std::string> FontNames() override;
     std::string PrinterName() override { return "Recording"; }
     int PageNumber() override { return static_cast<int>(m_sheets.size()); }
@@ -68,4 +80,5 @@ class RecordingSurface : public DrawingSurface {
     bool m_underline = false;
     Colour m_colour;
     int m_lineWidth = 1;
+    LineStyle m_lineStyle = LineStyle::Solid;
 };

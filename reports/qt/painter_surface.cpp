@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <QPen>
+#include <algorithm>
 
 namespace {
 
@@ -18,7 +19,12 @@ constexpr double TwipsPerPrinterDot = 2.4;
 } // namespace
 
 PainterSurface::PainterSurface(QPagedPaintDevice& device, std::string printerName)
-    : m_device(device), m_printerName(std::move(printerName)) {
+    : m_device(device), m_pages(&device), m_printerName(std::move(printerName)) {
+    m_font.setFamily(QStringLiteral("Arial"));
+    m_font.setPointSizeF(10);
+}
+
+PainterSurface::PainterSurface(QPaintDevice& canvas) : m_device(canvas), m_printerName("Canvas") {
     m_font.setFamily(QStringLiteral("Arial"));
     m_font.setPointSizeF(10);
 }
@@ -32,12 +38,17 @@ PainterSurface::~PainterSurface() {
 void PainterSurface::BeginDocument() {
     m_dotsPerTwip = m_device.logicalDpiX() / 1440.0;
     m_painter = std::make_unique<QPainter>(&m_device);
+    if (!m_pages) {
+        m_painter->setRenderHint(QPainter::Antialiasing);
+    }
     m_page = 1;
     ApplyFont();
 }
 
 void PainterSurface::NewPage() {
-    m_device.newPage();
+    if (m_pages) {
+        m_pages->newPage();
+    }
     ++m_page;
 }
 
@@ -105,9 +116,28 @@ void PainterSurface::DrawLine(double x1, double y1, double x2, double y2) {
     }
     QPen pen(m_colour);
     pen.setWidthF(m_lineWidth * TwipsPerPrinterDot * m_dotsPerTwip);
+    if (!m_pages) {
+        // A canvas of screen dots shows no line thinner than one.
+        pen.setWidthF(std::max(pen.widthF(), 1.0));
+    }
+    if (m_lineStyle == LineStyle::Dashed) {
+        // Dashes of 80 twips with gaps of 50, whatever the width of the line; the pattern is
+        // counted in widths of the pen.
+        const double widthTwips = pen.widthF() / m_dotsPerTwip;
+        pen.setDashPattern({80 / widthTwips, 50 / widthTwips});
+    }
     m_painter->setPen(pen);
     m_painter->drawLine(QPointF(x1 * m_dotsPerTwip, y1 * m_dotsPerTwip),
                         QPointF(x2 * m_dotsPerTwip, y2 * m_dotsPerTwip));
+}
+
+void PainterSurface::FillRectangle(double x, double y, double width, double height, Colour fill) {
+    if (!m_painter) {
+        return;
+    }
+    m_painter->fillRect(
+        QRectF(x * m_dotsPerTwip, y * m_dotsPerTwip, width * m_dotsPerTwip, height * m_dotsPerTwip),
+        QColor(fill.red, fill.green, fill.blue));
 }
 
 std::vector<std::string> PainterSurface::FontNames() {

@@ -18,8 +18,7 @@ struct RibbedRun {
 RibbedRun Ribbed(const DesignRecord& record, const ResultsRecord& results, std::int16_t showAll) {
     RibbedRun run;
     RibbedCounters& c = run.counters;
-    RibbedCompliance(record, results, c.centerLift, c.edgeLift, c.centerDown, c.edgeDown, c.bearing,
-                     c.cracked, showAll, run.box);
+    RibbedCompliance(record, results, c, showAll, run.box);
     return run;
 }
 
