@@ -73,7 +73,8 @@ struct TableWriter {
 
     void row(const char* item, CheckDirection direction, const CheckedRow& r) {
         const char* unit = UnitOf(r.item);
-        DesignCheck check;
+        // Written in place: the table of a search is built for many candidates.
+        DesignCheck& check = checks.emplace_back();
         check.foundation = foundation;
         check.mode = mode;
         check.direction = direction;
@@ -83,13 +84,13 @@ struct TableWriter {
         check.ratio = RowRatio(r);
         check.status = RowStatus(r);
         check.reference = reference;
-        checks.push_back(check);
     }
 
     void rule(const char* name, const char* item, CheckDirection direction, bool broken,
               std::optional<CheckQuantity> demand, std::optional<CheckQuantity> limit,
               const char* ruleReference) {
-        DesignCheck check;
+        // Written in place: the table of a search is built for many candidates.
+        DesignCheck& check = checks.emplace_back();
         check.foundation = foundation;
         check.mode = CheckMode::Rules;
         check.direction = direction;
@@ -99,7 +100,6 @@ struct TableWriter {
         check.limit = limit;
         check.status = broken ? CheckStatus::Ng : CheckStatus::Ok;
         check.reference = ruleReference;
-        checks.push_back(check);
     }
 };
 
@@ -284,6 +284,13 @@ void AddUniformRules(TableWriter& w, const DesignRecord& record, const ResultsRe
 
 std::vector<DesignCheck> DesignChecks(const DesignRecord& record, const ResultsRecord& results) {
     std::vector<DesignCheck> checks;
+    FillDesignChecks(record, results, checks);
+    return checks;
+}
+
+void FillDesignChecks(const DesignRecord& record, const ResultsRecord& results,
+                      std::vector<DesignCheck>& checks) {
+    checks.clear();
     checks.reserve(96);
 
     TableWriter ribbed{checks, Foundation::Ribbed};
@@ -305,7 +312,6 @@ std::vector<DesignCheck> DesignChecks(const DesignRecord& record, const ResultsR
         }
         AddUniformRules(uniform, record, results);
     }
-    return checks;
 }
 
 namespace {

@@ -43,6 +43,12 @@ CandidateVerdict CandidateRunner::run(std::int64_t index) {
         return CandidateVerdict::Faulted;
     }
     if (!tally.clean()) {
+        // The table names what failed; the tally above has already met any fault it could.
+        try {
+            FillDesignChecks(m_record, m_results, m_checks);
+        } catch (const ArithmeticFault&) {
+            m_checks.clear();
+        }
         return CandidateVerdict::OutOfCompliance;
     }
     m_score.index = index;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compliance/design_checks.h"
 #include "engine/design_record.h"
 #include "engine/equivalent_depth_memo.h"
 #include "engine/results_record.h"
@@ -36,6 +37,8 @@ class CandidateRunner {
     const CandidateScore& score() const { return m_score; }
     // The message of the value check that refused the last candidate run, when it was refused.
     const std::string& refusal() const { return m_refusal; }
+    // The check table of the last candidate run, when it was out of compliance.
+    const std::vector<DesignCheck>& failedTable() const { return m_checks; }
 
   private:
     const DesignRecord& m_project;
@@ -51,4 +54,5 @@ class CandidateRunner {
     EquivalentDepthMemo m_memo;
     CandidateScore m_score;
     std::string m_refusal;
+    std::vector<DesignCheck> m_checks;
 };

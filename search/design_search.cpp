@@ -30,6 +30,7 @@ struct ThreadFindings {
     std::int64_t outOfCompliance = 0;
     std::int64_t compliant = 0;
     RefusalTally refusals;
+    FailureTally failures;
     BestCandidates best;
     ParetoFront pareto;
     std::exception_ptr failure;
@@ -73,6 +74,7 @@ ThreadFindings tryCandidates(const SearchRequest& request, const SearchControl& 
                 break;
             case CandidateVerdict::OutOfCompliance:
                 ++findings.outOfCompliance;
+                findings.failures.add(runner.failedTable());
                 break;
             case CandidateVerdict::Compliant:
                 ++findings.compliant;
@@ -139,6 +141,7 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
     BestCandidates best(request.objective, request.best);
     ParetoFront pareto;
     RefusalTally refusals;
+    FailureTally failures;
     for (const ThreadFindings& mine : findings) {
         if (mine.failure) {
             std::rethrow_exception(mine.failure);
@@ -149,11 +152,13 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
         outcome.outOfCompliance += mine.outOfCompliance;
         outcome.compliant += mine.compliant;
         refusals.merge(mine.refusals);
+        failures.merge(mine.failures);
         best.merge(mine.best);
         pareto.merge(mine.pareto);
     }
     outcome.interrupted = outcome.tried < request.grid.count();
     outcome.refusals = refusals.ranked();
+    outcome.failures = failures.ranked();
     outcome.best = best.ranked();
     outcome.pareto = pareto.designs();
     return outcome;

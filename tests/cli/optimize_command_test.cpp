@@ -72,6 +72,29 @@ TEST(OptimizeCommand, WritesTheBestDesignAsAProjectThatAnalyzeAndCheckConfirm) {
     EXPECT_EQ(document["faulted"], 0);
     EXPECT_EQ(document["outOfCompliance"], 26);
     EXPECT_EQ(document["compliant"], 28);
+    // Each candidate out of compliance counts under every check it fails: widths of 6 and 16 in
+    // for each of the 9 counts, spacings of 60 / 3 = 20 ft and 60 / 11 = 5.5 ft for each of the
+    // 6 widths. The 20 ft spans of two beams also overstress some in the analysis, which comes
+    // after these four, less often.
+    const nlohmann::json failures = nlohmann::json::parse(R"([
+        {"foundation": "ribbed", "mode": "rules", "direction": null, "rule": "beamWidthMax",
+         "item": "Beam width at most 14 in", "count": 9},
+        {"foundation": "ribbed", "mode": "rules", "direction": null, "rule": "beamWidthMin",
+         "item": "Beam width at least 8 in", "count": 9},
+        {"foundation": "ribbed", "mode": "rules", "direction": "short", "rule": "beamSpacingMax",
+         "item": "Beam spacing at most 15 ft", "count": 6},
+        {"foundation": "ribbed", "mode": "rules", "direction": "short", "rule": "beamSpacingMin",
+         "item": "Beam spacing at least 6 ft", "count": 6}])");
+    ASSERT_GE(document["failures"].size(), 4u);
+    for (std::size_t i = 0; i < document["failures"].size(); ++i) {
+        if (i < 4) {
+            EXPECT_EQ(document["failures"][i], failures[i]);
+        } else {
+            EXPECT_EQ(document["failures"][i]["mode"], "centerLift");
+            EXPECT_LE(document["failures"][i]["count"], 6);
+        }
+    }
+    EXPECT_TRUE(document["refusals"].empty());
     EXPECT_EQ(document["candidates"], 54);
     EXPECT_EQ(document["interrupted"], false);
     EXPECT_EQ(document["objective"], "concrete");
@@ -145,6 +168,11 @@ TEST(OptimizeCommand, ListsTheCountsTheBestAndTheFrontInColumns) {
         "    ended in a fault             0",
         "    out of compliance            2",
         "    compliant                    4",
+        "",
+        "Checks failed most often:",
+        "  2  Ribbed foundation: Shear stress, center lift, short",
+        "  2  Ribbed foundation: Beam spacing at most 15 ft, short",
+        "  1  Ribbed foundation: Stiffness, center lift, short",
         "",
         "The best 3, by least concrete volume:",
         "  Rank  QS1  WS1  Concrete yd3  Tendon ft  Margin",
@@ -241,6 +269,7 @@ TEST(OptimizeCommand, WithoutACompliantDesignNothingIsWritten) {
         "Depth of Type 1 Beams in the short direction must be greater than slab thickness",
         "count": 4}])");
     EXPECT_EQ(document["refusals"], refusals);
+    EXPECT_TRUE(document["failures"].empty());
     EXPECT_TRUE(document["best"].empty());
     EXPECT_TRUE(document["pareto"].empty());
     EXPECT_EQ(FileBytes(output), "an earlier good file");

@@ -283,3 +283,29 @@ TEST(RefusalTally, RanksByCountThenByMessage) {
     EXPECT_EQ(first.ranked(), expected);
     EXPECT_TRUE(RefusalTally().ranked().empty());
 }
+
+// Each candidate out of compliance adds one to every check of its table that fails. Over 3 to
+// 10 type 1 short beams 8, 12 or 16 in wide: 16 in is over the 14 in greatest width for each of
+// the 8 counts, and ten beams leave 60 / 11 = 5.5 ft between them, under the 6 ft least spacing,
+// for each of the 3 widths. 8 + 3 failures over 10 candidates, one of which fails both; the 14
+// compliant ones count nothing.
+TEST(DesignSearch, FailuresAreCountedByCheckOverTheCandidatesOutOfCompliance) {
+    const SearchRequest request = requestOf(widthAndCountBase(), {"QS1=3:10", "WS1=8:16:4"});
+    for (const int threads : {1, 2}) {
+        const SearchOutcome outcome = search(request, threads);
+        EXPECT_EQ(outcome.outOfCompliance, 10);
+        EXPECT_EQ(outcome.compliant, 14);
+        ASSERT_EQ(outcome.failures.size(), 2u);
+        EXPECT_EQ(outcome.failures[0].rule, "beamWidthMax");
+        EXPECT_EQ(outcome.failures[0].mode, CheckMode::Rules);
+        EXPECT_EQ(outcome.failures[0].direction, CheckDirection::None);
+        EXPECT_EQ(outcome.failures[0].count, 8);
+        EXPECT_EQ(FailedCheckText(outcome.failures[0]),
+                  "Ribbed foundation: Beam width at most 14 in");
+        EXPECT_EQ(outcome.failures[1].rule, "beamSpacingMin");
+        EXPECT_EQ(outcome.failures[1].direction, CheckDirection::Short);
+        EXPECT_EQ(outcome.failures[1].count, 3);
+        EXPECT_EQ(FailedCheckText(outcome.failures[1]),
+                  "Ribbed foundation: Beam spacing at least 6 ft, short");
+    }
+}
