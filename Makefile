@@ -13,7 +13,7 @@
 #   make package      the Debian package build/korvath3_3.0_amd64.deb
 
 PACKAGES := cmake ninja-build g++ make libgtest-dev libgmock-dev libbenchmark-dev \
-            nlohmann-json3-dev libcli11-dev qt6-base-dev qt6-svg-dev fonts-liberation xvfb \
+            nlohmann-json3-dev libcli11-dev qt6-base-dev qt6-svg-dev qt6-charts-dev fonts-liberation xvfb \
             poppler-utils clang libclang-rt-14-dev dpkg-dev file desktop-file-utils appstream
 EXAMPLES := $(wildcard examples/*.kvt)
 CLI := build/bin/korvath3-cli

@@ -1,10 +1,12 @@
 #include "app/main_window.h"
 
+#include "app/design_search_view.h"
 #include "app/input_view.h"
 #include "app/options_view.h"
 #include "app/print_view.h"
 #include "app/results_view.h"
 #include "lifecycle/analysis_reset.h"
+#include "lifecycle/design_search_dialog.h"
 #include "lifecycle/project_lifecycle.h"
 #include "shell/recent_files.h"
 
@@ -44,6 +46,8 @@ MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTar
     m_options = new OptionsView(m_program, m_services, m_association, this);
     m_print = new PrintView(
         m_program, m_services, [this] { m_options->Open(0); }, this);
+    m_search = new DesignSearchView(
+        m_program, m_services, [this] { Refresh(); }, this);
     BuildMenus();
     BuildToolbar();
     setMinimumSize(1000, 640);
@@ -138,6 +142,9 @@ void MainWindow::BuildMenus() {
     QAction* analysis = AddAction(screen, "mnuAnalysis", "&Analysis");
     analysis->setShortcut(Qt::Key_F5);
     connect(analysis, &QAction::triggered, this, [this] { RunAnalysis(); });
+    screen->addSeparator();
+    connect(AddAction(screen, "mnuDesignSearch", "Design &Search..."), &QAction::triggered, this,
+            [this] { OpenDesignSearch(); });
 
     QMenu* help = menuBar()->addMenu("&Help");
     help->setObjectName("mnuHelp");
@@ -213,6 +220,10 @@ void MainWindow::BuildToolbar() {
                 ShowOutputScreen(m_program);
                 Refresh();
             });
+    toolbar->addSeparator();
+    QToolButton* search = button("Search", 11, QStyle::SP_FileDialogInfoView);
+    search->setToolTip("Design Search...");
+    connect(search, &QToolButton::clicked, this, [this] { OpenDesignSearch(); });
 }
 
 void MainWindow::Place() {
@@ -240,6 +251,10 @@ void MainWindow::Refresh() {
     for (const auto& [key, position] : keys) {
         m_buttons[key]->setEnabled(ToolbarButtonEnabled(project, position));
     }
+    // The design search starts from the input as it stands, once it passes its checks.
+    const bool searchable = DesignSearchEnabled(m_program);
+    m_actions["mnuDesignSearch"]->setEnabled(searchable);
+    m_buttons["Search"]->setEnabled(searchable);
     m_buttons["New"]->setToolTip(QString::fromStdString(project.newToolTip));
     const std::vector<RecentFileItem> recent = RecentFileItems(m_program.settings);
     for (std::size_t i = 0; i < recent.size(); ++i) {
@@ -281,6 +296,13 @@ void MainWindow::RunAnalysis() {
 void MainWindow::OpenPrintDialog(PrintPath path) {
     m_print->Open(path);
     Refresh();
+}
+
+void MainWindow::OpenDesignSearch() {
+    if (!DesignSearchEnabled(m_program)) {
+        return;
+    }
+    m_search->Open();
 }
 
 void MainWindow::ShowAbout() {

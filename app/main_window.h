@@ -8,6 +8,7 @@
 #include <map>
 #include <string>
 
+class DesignSearchView;
 class InputView;
 class OptionsView;
 class PrintView;
@@ -38,6 +39,7 @@ class MainWindow : public QMainWindow {
     ResultsView* resultsView() const { return m_results; }
     OptionsView* optionsView() const { return m_options; }
     PrintView* printView() const { return m_print; }
+    DesignSearchView* designSearchView() const { return m_search; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -48,6 +50,7 @@ class MainWindow : public QMainWindow {
     QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
     void RunAnalysis();
     void OpenPrintDialog(PrintPath path);
+    void OpenDesignSearch();
     void ShowAbout();
 
     Program& m_program;
@@ -60,5 +63,6 @@ class MainWindow : public QMainWindow {
     ResultsView* m_results;
     OptionsView* m_options;
     PrintView* m_print;
+    DesignSearchView* m_search;
     bool m_ending = false;
 };
