@@ -1,6 +1,7 @@
 #include "app/design_search_view.h"
 
 #include "common/number_pattern.h"
+#include "compliance/check_names.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -19,6 +20,7 @@
 #include <QVBoxLayout>
 #include <QtCharts/QChart>
 #include <QtCharts/QChartView>
+#include <QtCharts/QLegendMarker>
 #include <QtCharts/QLineSeries>
 #include <QtCharts/QScatterSeries>
 #include <QtCharts/QValueAxis>
@@ -29,7 +31,6 @@ namespace {
 
 enum FieldColumn {
     VaryColumn,
-    PageColumn,
     FieldColumnCaption,
     CurrentColumn,
     FromColumn,
@@ -71,7 +72,7 @@ DesignSearchView::DesignSearchView(Program& program, ShellServices& services,
     // The request: fields and ranges, objective and prices, the search's own controls.
     m_fields = new QTableWidget(0, FieldColumns, this);
     m_fields->setObjectName("grdFields");
-    m_fields->setHorizontalHeaderLabels({"Vary", "Page", "Field", "Current", "From", "To", "Step"});
+    m_fields->setHorizontalHeaderLabels({"Vary", "Field", "Current", "From", "To", "Step"});
     m_fields->verticalHeader()->hide();
     m_fields->horizontalHeader()->setSectionResizeMode(FieldColumnCaption, QHeaderView::Stretch);
     m_fields->setSelectionMode(QAbstractItemView::NoSelection);
@@ -142,7 +143,11 @@ DesignSearchView::DesignSearchView(Program& program, ShellServices& services,
     m_reasons->setHeaderLabels({"Why candidates failed", "Candidates"});
     m_reasons->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_reasons->header()->setStretchLastSection(false);
+    m_reasons->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     m_reasons->setRootIsDecorated(true);
+    m_reasons->setSelectionMode(QAbstractItemView::NoSelection);
+    m_reasons->setFocusPolicy(Qt::NoFocus);
+    m_reasons->setWordWrap(true);
 
     auto* chart = new QChart;
     chart->setTitle("Pareto front: concrete volume against tendon length");
@@ -158,6 +163,7 @@ DesignSearchView::DesignSearchView(Program& program, ShellServices& services,
     m_best->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_best->setSelectionMode(QAbstractItemView::SingleSelection);
     m_best->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_best->horizontalHeader()->setStretchLastSection(true);
     connect(m_best, &QTableWidget::itemSelectionChanged, this, [this] { UpdateButtons(); });
 
     m_use = new QPushButton("&Use this design", this);
@@ -188,8 +194,8 @@ DesignSearchView::DesignSearchView(Program& program, ShellServices& services,
     foundLayout->addLayout(buttons);
 
     auto* layout = new QHBoxLayout(this);
-    layout->addWidget(request, 2);
-    layout->addWidget(found, 3);
+    layout->addWidget(request, 4);
+    layout->addWidget(found, 7);
     resize(1360, 760);
 }
 
@@ -234,9 +240,10 @@ void DesignSearchView::BuildFieldTable() {
         vary->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
         vary->setCheckState(row.chosen ? Qt::Checked : Qt::Unchecked);
         m_fields->setItem(r, VaryColumn, vary);
-        m_fields->setItem(r, PageColumn, ReadOnlyItem(Q(row.page)));
         auto* caption = ReadOnlyItem(Q(row.caption));
+        // The record's name of the field, which the table of results heads its column with.
         caption->setToolTip(Q(row.field));
+        caption->setStatusTip(Q(row.page));
         m_fields->setItem(r, FieldColumnCaption, caption);
         m_fields->setItem(r, CurrentColumn, ReadOnlyItem(ValueText(row.current), Qt::AlignRight));
         m_fields->setItem(r, FromColumn, new QTableWidgetItem(Q(row.from)));
@@ -385,8 +392,13 @@ void DesignSearchView::ShowOutcome() {
     }
     auto* failed = new QTreeWidgetItem(
         m_reasons, {"Out of compliance, by the checks failed", Count(outcome.outOfCompliance)});
+    // The ribbed foundation is the one every project has: its checks go by their own names, those
+    // of the uniform thickness foundation with the foundation's.
     for (const FailureCount& failure : outcome.failures) {
-        new QTreeWidgetItem(failed, {Q(FailedCheckText(failure)), Count(failure.count)});
+        const std::string text = failure.foundation == Foundation::Ribbed
+                                     ? CheckTitle(failure.check())
+                                     : FailedCheckText(failure);
+        new QTreeWidgetItem(failed, {Q(text), Count(failure.count)});
     }
     for (QTreeWidgetItem* group : {refused, failed}) {
         group->setTextAlignment(1, Qt::AlignRight);
@@ -456,15 +468,15 @@ void DesignSearchView::DrawFront() {
         chart->removeAxis(axis);
         delete axis;
     }
+    // The front as a line through its designs, each design a point on it.
     auto* line = new QLineSeries;
     line->setName("Pareto front");
     auto* points = new QScatterSeries;
-    points->setName("Compliant designs of the front");
+    points->setName("Pareto front");
     points->setMarkerSize(9);
     auto* current = new QScatterSeries;
-    current->setName(m_model.current && m_model.current->compliant
-                         ? "Current design (compliant)"
-                         : "Current design (not compliant)");
+    current->setName(m_model.current && m_model.current->compliant ? "Current design"
+                                                                   : "Current design (fails)");
     current->setMarkerShape(QScatterSeries::MarkerShapeRectangle);
     current->setMarkerSize(12);
     current->setColor(QColor(255, 0, 0));
@@ -502,13 +514,21 @@ void DesignSearchView::DrawFront() {
         x->setRange(xMin - dx, xMax + dx);
         y->setRange(yMin - dy, yMax + dy);
     }
-    x->setLabelFormat("%.1f");
+    if (any) {
+        x->applyNiceNumbers();
+        y->applyNiceNumbers();
+    }
+    x->setLabelFormat("%.0f");
     y->setLabelFormat("%.0f");
     chart->addAxis(x, Qt::AlignBottom);
     chart->addAxis(y, Qt::AlignLeft);
     for (QAbstractSeries* series : chart->series()) {
         series->attachAxis(x);
         series->attachAxis(y);
+    }
+    // One entry for the front, the points' own.
+    for (QLegendMarker* marker : chart->legend()->markers(line)) {
+        marker->setVisible(false);
     }
 }
 

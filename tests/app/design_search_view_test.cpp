@@ -1,5 +1,6 @@
 #include "app/design_search_view.h"
 #include "app/main_window.h"
+#include "compliance/check_names.h"
 #include "lifecycle/project_lifecycle.h"
 #include "shell/load_settings.h"
 
@@ -55,10 +56,10 @@ struct SearchDesktop {
               const QString& step) {
         auto* table = Find<QTableWidget>("grdFields");
         for (int row = 0; row < table->rowCount(); ++row) {
-            if (table->item(row, 2)->toolTip().toStdString() == field) {
-                table->item(row, 4)->setText(from);
-                table->item(row, 5)->setText(to);
-                table->item(row, 6)->setText(step);
+            if (table->item(row, 1)->toolTip().toStdString() == field) {
+                table->item(row, 3)->setText(from);
+                table->item(row, 4)->setText(to);
+                table->item(row, 5)->setText(step);
                 table->item(row, 0)->setCheckState(Qt::Checked);
                 return;
             }
@@ -123,7 +124,8 @@ TEST(DesignSearchWindow, FindsCompliantDesignsShowsWhyOthersFailedAndUsesOne) {
     QTreeWidgetItem* failed = reasons->topLevelItem(1);
     ASSERT_EQ(failed->childCount(), static_cast<int>(outcome.failures.size()));
     ASSERT_GT(failed->childCount(), 0);
-    EXPECT_EQ(failed->child(0)->text(0).toStdString(), FailedCheckText(outcome.failures[0]));
+    ASSERT_EQ(outcome.failures[0].foundation, Foundation::Ribbed);
+    EXPECT_EQ(failed->child(0)->text(0).toStdString(), CheckTitle(outcome.failures[0].check()));
     EXPECT_EQ(failed->child(0)->text(1).toLongLong(), outcome.failures[0].count);
 
     // The best designs in order of concrete, each within every limit: less concrete is never
@@ -147,7 +149,7 @@ TEST(DesignSearchWindow, FindsCompliantDesignsShowsWhyOthersFailedAndUsesOne) {
     ASSERT_EQ(series.size(), 3);
     EXPECT_EQ(static_cast<QXYSeries*>(series[1])->count(), static_cast<int>(outcome.pareto.size()));
     ASSERT_EQ(static_cast<QXYSeries*>(series[2])->count(), 1);
-    EXPECT_EQ(series[2]->name(), "Current design (compliant)");
+    EXPECT_EQ(series[2]->name(), "Current design");
 
     // The best design goes into the input screen after one question; the results wait for F5.
     const std::vector<double> values = CandidateValues(*model.last, outcome.best[0].index);
