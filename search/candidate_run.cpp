@@ -45,7 +45,7 @@ CandidateVerdict CandidateRunner::run(std::int64_t index) {
     if (!tally.clean()) {
         // The table names what failed; the tally above has already met any fault it could.
         try {
-            FillDesignChecks(m_record, m_results, m_checks);
+            FillFailedChecks(m_record, m_results, m_checks);
         } catch (const ArithmeticFault&) {
             m_checks.clear();
         }

@@ -37,7 +37,8 @@ class CandidateRunner {
     const CandidateScore& score() const { return m_score; }
     // The message of the value check that refused the last candidate run, when it was refused.
     const std::string& refusal() const { return m_refusal; }
-    // The check table of the last candidate run, when it was out of compliance.
+    // The checks of the check table that the last candidate run failed, when it was out of
+    // compliance.
     const std::vector<DesignCheck>& failedTable() const { return m_checks; }
 
   private:

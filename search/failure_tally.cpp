@@ -19,13 +19,26 @@ void FailureTally::add(std::span<const DesignCheck> checks) {
         if (check.status == CheckStatus::Ok) {
             continue;
         }
-        ++m_counts[Key{check.foundation, check.mode, check.direction, check.rule, check.item}];
+        const Key key{check.foundation, check.mode, check.direction, check.rule, check.item};
+        const auto at = std::find_if(m_counts.begin(), m_counts.end(),
+                                     [&key](const auto& entry) { return entry.first == key; });
+        if (at != m_counts.end()) {
+            ++at->second;
+        } else {
+            m_counts.emplace_back(key, 1);
+        }
     }
 }
 
 void FailureTally::merge(const FailureTally& other) {
     for (const auto& [key, count] : other.m_counts) {
-        m_counts[key] += count;
+        const auto at = std::find_if(m_counts.begin(), m_counts.end(),
+                                     [&key](const auto& entry) { return entry.first == key; });
+        if (at != m_counts.end()) {
+            at->second += count;
+        } else {
+            m_counts.emplace_back(key, count);
+        }
     }
 }
 

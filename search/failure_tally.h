@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 // How many candidates failed one check of the check table: the check named by its foundation,
@@ -40,8 +41,9 @@ class FailureTally {
     // Counted by the table's own texts of rule and item, which stay put for the whole program,
     // so that a candidate adds its failures without copying a text; the texts themselves are
     // compared only when the counts are ranked.
+    // A candidate fails few distinct checks, so they are found by a look down a short list.
     using Key = std::tuple<Foundation, CheckMode, CheckDirection, const char*, const char*>;
-    std::map<Key, std::int64_t> m_counts;
+    std::vector<std::pair<Key, std::int64_t>> m_counts;
 };
 
 // The check as a reader names it: its foundation, then its item, mode and direction, as in
