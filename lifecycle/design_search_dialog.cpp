@@ -315,7 +315,7 @@ bool UseDesign(DesignSearchDialog& dialog, Program& program, ShellServices& serv
         const Answer answer = services.dialogs.AskYesNoCancel(
             {MessageIcon::Question, DesignSearchTitle,
              "Put design " + std::to_string(rank + 1) +
-                 " into the input screen? The results will wait for a new analysis." + listing});
+                 " into the input screen? The results will wait for a new analysis.\n" + listing});
         if (answer != Answer::Yes) {
             return false;
         }

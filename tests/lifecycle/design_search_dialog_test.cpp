@@ -224,7 +224,7 @@ TEST(DesignSearchDialog, UseTypesADesignIntoTheInputAndUndoTypesItBack) {
     ASSERT_EQ(f.dialogs.messages.size(), 2u);
     EXPECT_EQ(f.dialogs.messages[1].title, "Design Search");
     EXPECT_EQ(f.dialogs.messages[1].text,
-              "Put design 1 into the input screen? The results will wait for a new analysis.\n"
+              "Put design 1 into the input screen? The results will wait for a new analysis.\n\n"
               "SlabThick: 5 to 4.5\nQS1: 8 to 8");
     EXPECT_EQ(f.program.input.form["txtSlabThick"].text, "4.5");
     EXPECT_EQ(f.program.input.form["txtQS1"].text, "8");
