@@ -1,6 +1,7 @@
 #include "app/main_window.h"
 
 #include "app/checks_dock.h"
+#include "app/design_search_view.h"
 #include "app/input_view.h"
 #include "app/options_view.h"
 #include "app/package_export_view.h"
@@ -12,6 +13,7 @@
 #include "app/verdict_strip_view.h"
 #include "input/live_plan.h"
 #include "lifecycle/analysis_reset.h"
+#include "lifecycle/design_search_dialog.h"
 #include "lifecycle/package_export.h"
 #include "lifecycle/project_lifecycle.h"
 #include "reports/plan_drawing.h"
@@ -79,6 +81,8 @@ MainWindow::MainWindow(Program& program, ShellServices& services, AssociationTar
     m_print = new PrintView(
         m_program, m_services, [this] { m_options->Open(0); }, this);
     BuildChecks();
+    m_search = new DesignSearchView(
+        m_program, m_services, [this] { Refresh(); }, this);
     BuildMenus();
     BuildToolbar();
     setMinimumSize(1000, 640);
@@ -198,7 +202,9 @@ void MainWindow::BuildMenus() {
     checks->setShortcut(Qt::Key_F6);
     screen->addAction(checks);
     m_actions["mnuChecks"] = checks;
-    connect(AddAction(screen, "mnuSensitivity", "Soil &Sensitivity..."), &QAction::triggered, this,
+    connect(AddAction(screen, "mnuDesignSearch", "Design &Search..."), &QAction::triggered, this,
+            [this] { OpenDesignSearch(); });
+    connect(AddAction(screen, "mnuSensitivity", "Soil Se&nsitivity..."), &QAction::triggered, this,
             [this] { ShowSensitivityDialog(); });
 
     QMenu* help = menuBar()->addMenu("&Help");
@@ -280,7 +286,11 @@ void MainWindow::BuildToolbar() {
                 Refresh();
             });
     toolbar->addSeparator();
-    connect(button("Sensitivity", 12, QStyle::SP_FileDialogInfoView), &QToolButton::clicked, this,
+    QToolButton* search = button("Search", 11, QStyle::SP_FileDialogInfoView);
+    search->setToolTip("Design Search...");
+    connect(search, &QToolButton::clicked, this, [this] { OpenDesignSearch(); });
+    connect(button("Sensitivity", 12, QStyle::SP_FileDialogContentsView),
+            &QToolButton::clicked, this,
             [this] { ShowSensitivityDialog(); });
 }
 
@@ -326,6 +336,10 @@ void MainWindow::Refresh() {
     }
     m_actions["mnuSensitivity"]->setEnabled(MenuEnabled(project, "mnuOutput"));
     m_buttons["Sensitivity"]->setEnabled(MenuEnabled(project, "mnuOutput"));
+    // The design search starts from the input as it stands, once it passes its checks.
+    const bool searchable = DesignSearchEnabled(m_program);
+    m_actions["mnuDesignSearch"]->setEnabled(searchable);
+    m_buttons["Search"]->setEnabled(searchable);
     m_buttons["New"]->setToolTip(QString::fromStdString(project.newToolTip));
     const std::vector<RecentFileItem> recent = RecentFileItems(m_program.settings);
     for (std::size_t i = 0; i < recent.size(); ++i) {
@@ -447,6 +461,13 @@ void MainWindow::ShowLiveVerdict() {
 void MainWindow::OpenPrintDialog(PrintPath path) {
     m_print->Open(path);
     Refresh();
+}
+
+void MainWindow::OpenDesignSearch() {
+    if (!DesignSearchEnabled(m_program)) {
+        return;
+    }
+    m_search->Open();
 }
 
 void MainWindow::ShowAbout() {

@@ -12,6 +12,7 @@
 #include <string>
 
 class ChecksDock;
+class DesignSearchView;
 class InputView;
 class QLabel;
 class QTimer;
@@ -49,6 +50,7 @@ class MainWindow : public QMainWindow {
     PrintView* printView() const { return m_print; }
     ChecksDock* checksDock() const { return m_checksDock; }
     QDockWidget* planDock() const { return m_planDock; }
+    DesignSearchView* designSearchView() const { return m_search; }
 
     // The Analysis command (F5): the results screen, the verdict strip and the Checks panel
     // from the values on the input pages.
@@ -62,6 +64,7 @@ class MainWindow : public QMainWindow {
     void BuildToolbar();
     QAction* AddAction(QMenu* menu, const std::string& name, const QString& caption);
     void OpenPrintDialog(PrintPath path);
+    void OpenDesignSearch();
     void ShowAbout();
     void ShowSensitivityDialog();
 
@@ -78,6 +81,7 @@ class MainWindow : public QMainWindow {
     // The plan of the analysed design, beside the results.
     QDockWidget* m_planDock;
     PlanPanel* m_plan;
+    DesignSearchView* m_search;
     bool m_ending = false;
 
     // The check table of the last analysis and its views; the verdict of the values as typed.

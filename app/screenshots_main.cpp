@@ -1,6 +1,7 @@
 // korvath3-screenshots: pictures of the desktop program's windows for the README and for review,
 // taken on any Qt platform (offscreen without a display).
 
+#include "app/design_search_view.h"
 #include "app/input_view.h"
 #include "app/main_window.h"
 #include "app/options_view.h"
@@ -15,11 +16,14 @@
 #include "shell/load_settings.h"
 #include "shell/memory_settings_store.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTimer>
 #include <iostream>
 
@@ -60,6 +64,29 @@ int main(int argc, char** argv) {
         window.Refresh();
         QApplication::processEvents();
         Save(&window, folder + QString("/input-page-%1.png").arg(page + 1));
+    }
+
+    // The design search over the count and depth of the type 1 beams each way, around the
+    // project's own values: the dialog before the search and after it.
+    if (window.Action("mnuDesignSearch")->isEnabled()) {
+        DesignSearchView* search = window.designSearchView();
+        search->Open();
+        auto* fields = search->findChild<QTableWidget*>("grdFields");
+        for (int row = 0; row < fields->rowCount(); ++row) {
+            const QString field = fields->item(row, 1)->toolTip();
+            if (field == "QS1" || field == "DS1" || field == "QL1" || field == "DL1") {
+                fields->item(row, 0)->setCheckState(Qt::Checked);
+            }
+        }
+        QApplication::processEvents();
+        Save(search, folder + "/design-search-before.png");
+        search->findChild<QPushButton*>("cmdSearch")->click();
+        while (search->Searching()) {
+            QApplication::processEvents(QEventLoop::AllEvents, 50);
+        }
+        QApplication::processEvents();
+        Save(search, folder + "/design-search-after.png");
+        search->hide();
     }
 
     OptionsView* options = window.optionsView();

@@ -1,5 +1,7 @@
 #include "cli/search_json.h"
 
+#include "compliance/check_names.h"
+
 namespace {
 
 const char* objectiveName(SearchObjective objective) {
@@ -46,6 +48,26 @@ nlohmann::ordered_json SearchOutcomeJson(const SearchReportInput& report) {
     document["faulted"] = outcome.faulted;
     document["outOfCompliance"] = outcome.outOfCompliance;
     document["compliant"] = outcome.compliant;
+    document["refusals"] = nlohmann::ordered_json::array();
+    for (const RefusalCount& refusal : outcome.refusals) {
+        nlohmann::ordered_json entry;
+        entry["message"] = refusal.message;
+        entry["count"] = refusal.count;
+        document["refusals"].push_back(std::move(entry));
+    }
+    document["failures"] = nlohmann::ordered_json::array();
+    for (const FailureCount& failure : outcome.failures) {
+        nlohmann::ordered_json entry;
+        entry["foundation"] = FoundationKey(failure.foundation);
+        entry["mode"] = ModeKey(failure.mode);
+        const char* direction = DirectionKey(failure.direction);
+        entry["direction"] = direction ? nlohmann::ordered_json(direction) : nullptr;
+        entry["rule"] = failure.rule.empty() ? nlohmann::ordered_json(nullptr)
+                                             : nlohmann::ordered_json(failure.rule);
+        entry["item"] = failure.item;
+        entry["count"] = failure.count;
+        document["failures"].push_back(std::move(entry));
+    }
     document["best"] = nlohmann::ordered_json::array();
     for (const CandidateScore& score : outcome.best) {
         document["best"].push_back(designJson(report, score));

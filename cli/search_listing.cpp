@@ -2,11 +2,15 @@
 
 #include "cli/summary_table.h"
 #include "common/number_text.h"
+#include "compliance/check_names.h"
 
 #include <algorithm>
 #include <ostream>
 
 namespace {
+
+// How many reasons of each kind the listing names.
+constexpr std::size_t ListedReasons = 5;
 
 std::string objectiveWords(SearchObjective objective) {
     switch (objective) {
@@ -88,6 +92,48 @@ std::vector<std::string> designRow(const SearchReportInput& report, const Candid
     return cells;
 }
 
+// The reasons met most often, under the counts, each with how many candidates it stopped: what
+// to change first when a search finds little. `what` names the reasons in the heading.
+void printReasons(const std::string& heading, const std::string& what,
+                  const std::vector<std::pair<std::int64_t, std::string>>& reasons,
+                  std::ostream& out) {
+    if (reasons.empty()) {
+        return;
+    }
+    const std::size_t shown = std::min(reasons.size(), ListedReasons);
+    out << "\n" << heading;
+    if (shown < reasons.size()) {
+        out << " (" << shown << " of " << reasons.size() << " " << what << ")";
+    }
+    out << ":\n";
+    // The counts to the right, the reasons after them to the left.
+    std::size_t width = 0;
+    for (std::size_t i = 0; i < shown; ++i) {
+        width = std::max(width, count(reasons[i].first).size());
+    }
+    for (std::size_t i = 0; i < shown; ++i) {
+        const std::string number = count(reasons[i].first);
+        out << "  " << std::string(width - number.size(), ' ') << number << "  "
+            << reasons[i].second << '\n';
+    }
+}
+
+void printRefusals(const std::vector<RefusalCount>& refusals, std::ostream& out) {
+    std::vector<std::pair<std::int64_t, std::string>> reasons;
+    for (const RefusalCount& refusal : refusals) {
+        reasons.emplace_back(refusal.count, refusal.message);
+    }
+    printReasons("Refused most often by", "messages", reasons, out);
+}
+
+void printFailures(const std::vector<FailureCount>& failures, std::ostream& out) {
+    std::vector<std::pair<std::int64_t, std::string>> reasons;
+    for (const FailureCount& failure : failures) {
+        reasons.emplace_back(failure.count, FailedCheckText(failure));
+    }
+    printReasons("Checks failed most often", "checks", reasons, out);
+}
+
 } // namespace
 
 std::string VariedValueText(const VariedField& field, std::int64_t place) {
@@ -122,6 +168,8 @@ void PrintSearchListing(const std::filesystem::path& project, const SearchReport
                   {"  out of compliance", count(outcome.outOfCompliance)},
                   {"  compliant", count(outcome.compliant)}},
                  out, FirstColumn::Left);
+    printRefusals(outcome.refusals, out);
+    printFailures(outcome.failures, out);
     if (outcome.best.empty()) {
         out << "\nNo candidate is within every limit without a PTI exception.\n";
         return;

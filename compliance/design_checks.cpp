@@ -70,10 +70,16 @@ struct TableWriter {
     Foundation foundation;
     CheckMode mode = CheckMode::Rules;
     const char* reference = nullptr;
+    bool failedOnly = false; // only the checks that are not ok are written
 
     void row(const char* item, CheckDirection direction, const CheckedRow& r) {
+        const CheckStatus status = RowStatus(r);
+        if (failedOnly && status == CheckStatus::Ok) {
+            return;
+        }
         const char* unit = UnitOf(r.item);
-        DesignCheck check;
+        // Written in place: the table of a search is built for many candidates.
+        DesignCheck& check = checks.emplace_back();
         check.foundation = foundation;
         check.mode = mode;
         check.direction = direction;
@@ -81,15 +87,18 @@ struct TableWriter {
         check.demand = CheckQuantity{r.value.name, r.value.value, unit};
         check.limit = CheckQuantity{r.limit.name, r.limit.value, unit};
         check.ratio = RowRatio(r);
-        check.status = RowStatus(r);
+        check.status = status;
         check.reference = reference;
-        checks.push_back(check);
     }
 
     void rule(const char* name, const char* item, CheckDirection direction, bool broken,
               std::optional<CheckQuantity> demand, std::optional<CheckQuantity> limit,
               const char* ruleReference) {
-        DesignCheck check;
+        if (failedOnly && !broken) {
+            return;
+        }
+        // Written in place: the table of a search is built for many candidates.
+        DesignCheck& check = checks.emplace_back();
         check.foundation = foundation;
         check.mode = CheckMode::Rules;
         check.direction = direction;
@@ -99,7 +108,6 @@ struct TableWriter {
         check.limit = limit;
         check.status = broken ? CheckStatus::Ng : CheckStatus::Ok;
         check.reference = ruleReference;
-        checks.push_back(check);
     }
 };
 
@@ -284,9 +292,19 @@ void AddUniformRules(TableWriter& w, const DesignRecord& record, const ResultsRe
 
 std::vector<DesignCheck> DesignChecks(const DesignRecord& record, const ResultsRecord& results) {
     std::vector<DesignCheck> checks;
+    FillDesignChecks(record, results, checks);
+    return checks;
+}
+
+namespace {
+
+void WriteTable(const DesignRecord& record, const ResultsRecord& results,
+                std::vector<DesignCheck>& checks, bool failedOnly) {
+    checks.clear();
     checks.reserve(96);
 
     TableWriter ribbed{checks, Foundation::Ribbed};
+    ribbed.failedOnly = failedOnly;
     if (record.SoilType == ExpansiveSoil || record.SoilType == CompressibleSoil) {
         ribbed.mode = CheckMode::Bearing;
         ribbed.row("Soil bearing pressure", CheckDirection::None, SoilBearingRow(record, results));
@@ -299,13 +317,25 @@ std::vector<DesignCheck> DesignChecks(const DesignRecord& record, const ResultsR
 
     if (record.FlatSlab == 1) {
         TableWriter uniform{checks, Foundation::Uniform};
+        uniform.failedOnly = failedOnly;
         AddSoilModes(uniform, record, results, UniformModes);
         if (record.LineLoadType == 1) {
             AddLineLoad(uniform, UniformLineLoadRows(results));
         }
         AddUniformRules(uniform, record, results);
     }
-    return checks;
+}
+
+} // namespace
+
+void FillDesignChecks(const DesignRecord& record, const ResultsRecord& results,
+                      std::vector<DesignCheck>& checks) {
+    WriteTable(record, results, checks, false);
+}
+
+void FillFailedChecks(const DesignRecord& record, const ResultsRecord& results,
+                      std::vector<DesignCheck>& checks) {
+    WriteTable(record, results, checks, true);
 }
 
 namespace {

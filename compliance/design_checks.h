@@ -52,6 +52,16 @@ struct DesignCheck {
 // ratio of a direction without any beam group that has both a depth and a quantity.
 std::vector<DesignCheck> DesignChecks(const DesignRecord& record, const ResultsRecord& results);
 
+// The same table written into `checks`, which is cleared first: a search that builds the table
+// of many candidates keeps one vector and its memory.
+void FillDesignChecks(const DesignRecord& record, const ResultsRecord& results,
+                      std::vector<DesignCheck>& checks);
+
+// Only the checks of the table that are not ok, in the table's order, written into `checks`
+// likewise: what a search counts of each candidate that fails.
+void FillFailedChecks(const DesignRecord& record, const ResultsRecord& results,
+                      std::vector<DesignCheck>& checks);
+
 struct FoundationVerdict {
     bool pass = true; // every check of the foundation is ok
     int notOk = 0;    // its checks that are not ok

@@ -4,6 +4,9 @@
 #include "engine/project_analysis.h"
 #include "input/record_values.h"
 
+#include <optional>
+#include <utility>
+
 CandidateRunner::CandidateRunner(const DesignRecord& project, const CandidateGrid& grid,
                                  const EngineSettings& settings, const SearchPrices& prices)
     : m_project(project), m_grid(grid), m_settings(settings), m_prices(prices), m_record(project) {
@@ -24,7 +27,8 @@ CandidateVerdict CandidateRunner::run(std::int64_t index) {
     }
     m_grid.apply(index, m_record);
 
-    if (FindReadyRecordValueFault(m_record)) {
+    if (std::optional<InputFault> fault = FindReadyRecordValueFault(m_record)) {
+        m_refusal = std::move(fault->message);
         return CandidateVerdict::Refused;
     }
     // A project read from a file starts from results never computed.
@@ -39,6 +43,12 @@ CandidateVerdict CandidateRunner::run(std::int64_t index) {
         return CandidateVerdict::Faulted;
     }
     if (!tally.clean()) {
+        // The table names what failed; the tally above has already met any fault it could.
+        try {
+            FillFailedChecks(m_record, m_results, m_checks);
+        } catch (const ArithmeticFault&) {
+            m_checks.clear();
+        }
         return CandidateVerdict::OutOfCompliance;
     }
     m_score.index = index;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compliance/design_checks.h"
 #include "engine/design_record.h"
 #include "engine/equivalent_depth_memo.h"
 #include "engine/results_record.h"
@@ -7,6 +8,7 @@
 #include "search/candidate_score.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 // What became of one candidate: stopped by the value checks the program runs before every
@@ -33,6 +35,11 @@ class CandidateRunner {
     CandidateVerdict run(std::int64_t index);
     // The score of the last candidate run, when it was compliant.
     const CandidateScore& score() const { return m_score; }
+    // The message of the value check that refused the last candidate run, when it was refused.
+    const std::string& refusal() const { return m_refusal; }
+    // The checks of the check table that the last candidate run failed, when it was out of
+    // compliance.
+    const std::vector<DesignCheck>& failedTable() const { return m_checks; }
 
   private:
     const DesignRecord& m_project;
@@ -47,4 +54,6 @@ class CandidateRunner {
     ResultsRecord m_results;
     EquivalentDepthMemo m_memo;
     CandidateScore m_score;
+    std::string m_refusal;
+    std::vector<DesignCheck> m_checks;
 };

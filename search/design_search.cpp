@@ -29,6 +29,8 @@ struct ThreadFindings {
     std::int64_t faulted = 0;
     std::int64_t outOfCompliance = 0;
     std::int64_t compliant = 0;
+    RefusalTally refusals;
+    FailureTally failures;
     BestCandidates best;
     ParetoFront pareto;
     std::exception_ptr failure;
@@ -65,12 +67,14 @@ ThreadFindings tryCandidates(const SearchRequest& request, const SearchControl& 
             switch (runner.run(index)) {
             case CandidateVerdict::Refused:
                 ++findings.refused;
+                findings.refusals.add(runner.refusal());
                 break;
             case CandidateVerdict::Faulted:
                 ++findings.faulted;
                 break;
             case CandidateVerdict::OutOfCompliance:
                 ++findings.outOfCompliance;
+                findings.failures.add(runner.failedTable());
                 break;
             case CandidateVerdict::Compliant:
                 ++findings.compliant;
@@ -136,6 +140,8 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
     SearchOutcome outcome;
     BestCandidates best(request.objective, request.best);
     ParetoFront pareto;
+    RefusalTally refusals;
+    FailureTally failures;
     for (const ThreadFindings& mine : findings) {
         if (mine.failure) {
             std::rethrow_exception(mine.failure);
@@ -145,10 +151,14 @@ SearchOutcome RunDesignSearch(const SearchRequest& request, const SearchControl&
         outcome.faulted += mine.faulted;
         outcome.outOfCompliance += mine.outOfCompliance;
         outcome.compliant += mine.compliant;
+        refusals.merge(mine.refusals);
+        failures.merge(mine.failures);
         best.merge(mine.best);
         pareto.merge(mine.pareto);
     }
     outcome.interrupted = outcome.tried < request.grid.count();
+    outcome.refusals = refusals.ranked();
+    outcome.failures = failures.ranked();
     outcome.best = best.ranked();
     outcome.pareto = pareto.designs();
     return outcome;

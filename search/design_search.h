@@ -4,6 +4,8 @@
 #include "search/candidate_grid.h"
 #include "search/candidate_run.h"
 #include "search/candidate_score.h"
+#include "search/failure_tally.h"
+#include "search/refusal_tally.h"
 
 #include <atomic>
 #include <cstddef>
@@ -39,6 +41,12 @@ struct SearchOutcome {
     std::int64_t faulted = 0;
     std::int64_t outOfCompliance = 0;
     std::int64_t compliant = 0;
+    // The refused candidates by the message of the value check that refused them, most frequent
+    // first; the counts add up to `refused`.
+    std::vector<RefusalCount> refusals;
+    // The checks of the check table that the candidates out of compliance failed, most frequent
+    // first: each such candidate adds one to every check of its table that is not ok.
+    std::vector<FailureCount> failures;
     // The stop flag was set before every candidate was tried.
     bool interrupted = false;
     // The best compliant candidates, best first, and the front of concrete against tendon

@@ -72,6 +72,29 @@ TEST(OptimizeCommand, WritesTheBestDesignAsAProjectThatAnalyzeAndCheckConfirm) {
     EXPECT_EQ(document["faulted"], 0);
     EXPECT_EQ(document["outOfCompliance"], 26);
     EXPECT_EQ(document["compliant"], 28);
+    // Each candidate out of compliance counts under every check it fails: widths of 6 and 16 in
+    // for each of the 9 counts, spacings of 60 / 3 = 20 ft and 60 / 11 = 5.5 ft for each of the
+    // 6 widths. The 20 ft spans of two beams also overstress some in the analysis, which comes
+    // after these four, less often.
+    const nlohmann::json failures = nlohmann::json::parse(R"([
+        {"foundation": "ribbed", "mode": "rules", "direction": null, "rule": "beamWidthMax",
+         "item": "Beam width at most 14 in", "count": 9},
+        {"foundation": "ribbed", "mode": "rules", "direction": null, "rule": "beamWidthMin",
+         "item": "Beam width at least 8 in", "count": 9},
+        {"foundation": "ribbed", "mode": "rules", "direction": "short", "rule": "beamSpacingMax",
+         "item": "Beam spacing at most 15 ft", "count": 6},
+        {"foundation": "ribbed", "mode": "rules", "direction": "short", "rule": "beamSpacingMin",
+         "item": "Beam spacing at least 6 ft", "count": 6}])");
+    ASSERT_GE(document["failures"].size(), 4u);
+    for (std::size_t i = 0; i < document["failures"].size(); ++i) {
+        if (i < 4) {
+            EXPECT_EQ(document["failures"][i], failures[i]);
+        } else {
+            EXPECT_EQ(document["failures"][i]["mode"], "centerLift");
+            EXPECT_LE(document["failures"][i]["count"], 6);
+        }
+    }
+    EXPECT_TRUE(document["refusals"].empty());
     EXPECT_EQ(document["candidates"], 54);
     EXPECT_EQ(document["interrupted"], false);
     EXPECT_EQ(document["objective"], "concrete");
@@ -145,6 +168,11 @@ TEST(OptimizeCommand, ListsTheCountsTheBestAndTheFrontInColumns) {
         "    ended in a fault             0",
         "    out of compliance            2",
         "    compliant                    4",
+        "",
+        "Checks failed most often:",
+        "  2  Ribbed foundation: Shear stress, center lift, short",
+        "  2  Ribbed foundation: Beam spacing at most 15 ft, short",
+        "  1  Ribbed foundation: Stiffness, center lift, short",
         "",
         "The best 3, by least concrete volume:",
         "  Rank  QS1  WS1  Concrete yd3  Tendon ft  Margin",
@@ -237,6 +265,11 @@ TEST(OptimizeCommand, WithoutACompliantDesignNothingIsWritten) {
     EXPECT_EQ(document["tried"], 4);
     EXPECT_EQ(document["refused"], 4);
     EXPECT_EQ(document["compliant"], 0);
+    const nlohmann::json refusals = nlohmann::json::parse(R"([{"message":
+        "Depth of Type 1 Beams in the short direction must be greater than slab thickness",
+        "count": 4}])");
+    EXPECT_EQ(document["refusals"], refusals);
+    EXPECT_TRUE(document["failures"].empty());
     EXPECT_TRUE(document["best"].empty());
     EXPECT_TRUE(document["pareto"].empty());
     EXPECT_EQ(FileBytes(output), "an earlier good file");
@@ -245,7 +278,48 @@ TEST(OptimizeCommand, WithoutACompliantDesignNothingIsWritten) {
 
     options.json = false;
     options.output.clear();
-    EXPECT_NE(optimize(options).out.find("No candidate is within every limit"), std::string::npos);
+    const std::string listing = optimize(options).out;
+    EXPECT_NE(listing.find("    compliant                    0\n"
+                           "\n"
+                           "Refused most often by:\n"
+                           "  4  Depth of Type 1 Beams in the short direction must be greater "
+                           "than slab thickness\n"
+                           "\n"
+                           "No candidate is within every limit"),
+              std::string::npos)
+        << listing;
+}
+
+// Of more than five messages the listing names the five most frequent and says how many there
+// are; the JSON lists them all, most frequent first, adding up to the refused. The expansive
+// example with too few short beams, too shallow, too narrow, covers too deep and minimum
+// spacings of 0 or above the average: seven messages over 864 candidates.
+TEST(OptimizeCommand, ListsTheFiveMostFrequentRefusals) {
+    OptimizeOptions options = optionsFor(ExamplePath("expansive_ribbed.kvt"),
+                                         {"SlabThick=4:8:2", "DS1=6:12:6", "QS1=0:3", "QS2=0:2:2",
+                                          "WS1=0:8:4", "CS1=5:8:3", "SMin=0:16:8"});
+    options.json = true;
+    const nlohmann::json document = runJson(optimize(options));
+    ASSERT_GT(document["refusals"].size(), 5u) << document.dump(2);
+    std::int64_t sum = 0;
+    for (std::size_t i = 0; i < document["refusals"].size(); ++i) {
+        sum += document["refusals"][i]["count"].get<std::int64_t>();
+        if (i > 0) {
+            EXPECT_GE(document["refusals"][i - 1]["count"], document["refusals"][i]["count"]);
+        }
+    }
+    EXPECT_EQ(sum, document["refused"].get<std::int64_t>());
+
+    options.json = false;
+    const std::string listing = optimize(options).out;
+    EXPECT_NE(listing.find("Refused most often by (5 of " +
+                           std::to_string(document["refusals"].size()) + " messages):\n"),
+              std::string::npos)
+        << listing;
+    for (std::size_t i = 0; i < document["refusals"].size(); ++i) {
+        const std::string message = document["refusals"][i]["message"];
+        EXPECT_EQ(listing.find("  " + message + "\n") != std::string::npos, i < 5) << message;
+    }
 }
 
 TEST(OptimizeCommand, AnOutputThatCannotBeWrittenIsAFileErrorAlone) {

@@ -235,3 +235,77 @@ TEST(DesignSearch, AStopAskedForEndsTheSearchWithWhatItHas) {
     EXPECT_EQ(whole.tried, 54);
     EXPECT_FALSE(whole.interrupted);
 }
+
+// Each refused candidate is counted under the first value check it fails, in the program's order
+// of checks for the type 1 short beams: depth above the 4 in slab, tendons not negative (for any
+// count of beams), cover less than the depth. 3 x 3 x 2 x 2 = 36 candidates, by hand:
+// - no beams (12): the depth and cover are not asked; TS1 = -1 refuses 6.
+// - one or two beams (24): a depth of 3 or 4 in refuses 16; at 5 in TS1 = -1 refuses 4, and with
+//   TS1 = 0 a cover of 5 in refuses 2, of 4 in passes 2.
+// 16 + 10 + 2 = 28 refused, the count of all refusals, most frequent first.
+TEST(DesignSearch, RefusalsAreCountedByTheMessageOfTheFirstCheckThatFails) {
+    const SearchRequest request =
+        requestOf(widthAndCountBase(), {"QS1=0:2", "DS1=3:5", "TS1=-1:0", "CS1=4:5"});
+    const std::vector<RefusalCount> expected = {
+        {"Depth of Type 1 Beams in the short direction must be greater than slab thickness", 16},
+        {"Number of Tendons in Type 1 Beams in the short direction must be greater than or equal "
+         "to zero",
+         10},
+        {"Tendon Cover for Type 1 Beams in the short direction must be less than Type 1 Beam Depth",
+         2},
+    };
+    for (const int threads : {1, 2, 3}) {
+        const SearchOutcome outcome = search(request, threads);
+        EXPECT_EQ(outcome.tried, 36);
+        EXPECT_EQ(outcome.refused, 28);
+        EXPECT_EQ(outcome.refusals, expected) << threads << " threads";
+        std::int64_t sum = 0;
+        for (const RefusalCount& refusal : outcome.refusals) {
+            sum += refusal.count;
+        }
+        EXPECT_EQ(sum, outcome.refused);
+    }
+
+    // Nothing refused, nothing listed.
+    EXPECT_TRUE(search(requestOf(widthAndCountBase(), {"QS1=3:4"})).refusals.empty());
+}
+
+// Equal counts go by the text of their messages, so the order is the same on every run.
+TEST(RefusalTally, RanksByCountThenByMessage) {
+    RefusalTally first, second;
+    for (const char* message : {"b", "c", "a", "c", "b"}) {
+        first.add(message);
+    }
+    second.add("a");
+    second.add("d");
+    first.merge(second);
+    const std::vector<RefusalCount> expected = {{"a", 2}, {"b", 2}, {"c", 2}, {"d", 1}};
+    EXPECT_EQ(first.ranked(), expected);
+    EXPECT_TRUE(RefusalTally().ranked().empty());
+}
+
+// Each candidate out of compliance adds one to every check of its table that fails. Over 3 to
+// 10 type 1 short beams 8, 12 or 16 in wide: 16 in is over the 14 in greatest width for each of
+// the 8 counts, and ten beams leave 60 / 11 = 5.5 ft between them, under the 6 ft least spacing,
+// for each of the 3 widths. 8 + 3 failures over 10 candidates, one of which fails both; the 14
+// compliant ones count nothing.
+TEST(DesignSearch, FailuresAreCountedByCheckOverTheCandidatesOutOfCompliance) {
+    const SearchRequest request = requestOf(widthAndCountBase(), {"QS1=3:10", "WS1=8:16:4"});
+    for (const int threads : {1, 2}) {
+        const SearchOutcome outcome = search(request, threads);
+        EXPECT_EQ(outcome.outOfCompliance, 10);
+        EXPECT_EQ(outcome.compliant, 14);
+        ASSERT_EQ(outcome.failures.size(), 2u);
+        EXPECT_EQ(outcome.failures[0].rule, "beamWidthMax");
+        EXPECT_EQ(outcome.failures[0].mode, CheckMode::Rules);
+        EXPECT_EQ(outcome.failures[0].direction, CheckDirection::None);
+        EXPECT_EQ(outcome.failures[0].count, 8);
+        EXPECT_EQ(FailedCheckText(outcome.failures[0]),
+                  "Ribbed foundation: Beam width at most 14 in");
+        EXPECT_EQ(outcome.failures[1].rule, "beamSpacingMin");
+        EXPECT_EQ(outcome.failures[1].direction, CheckDirection::Short);
+        EXPECT_EQ(outcome.failures[1].count, 3);
+        EXPECT_EQ(FailedCheckText(outcome.failures[1]),
+                  "Ribbed foundation: Beam spacing at least 6 ft, short");
+    }
+}
