@@ -289,9 +289,8 @@ void MainWindow::BuildToolbar() {
     QToolButton* search = button("Search", 11, QStyle::SP_FileDialogInfoView);
     search->setToolTip("Design Search...");
     connect(search, &QToolButton::clicked, this, [this] { OpenDesignSearch(); });
-    connect(button("Sensitivity", 12, QStyle::SP_FileDialogContentsView),
-            &QToolButton::clicked, this,
-            [this] { ShowSensitivityDialog(); });
+    connect(button("Sensitivity", 12, QStyle::SP_FileDialogContentsView), &QToolButton::clicked,
+            this, [this] { ShowSensitivityDialog(); });
 }
 
 void MainWindow::ShowSensitivityDialog() {

@@ -57,16 +57,11 @@ int main(int argc, char** argv) {
     CLI::App app{"Korvath 3.0 - post-tensioned slabs on ground, from the command line"};
     app.require_subcommand(1);
     const std::vector<Subcommand> subcommands = {
-        AddAnalyzeSubcommand(app),
-        AddCheckSubcommand(app),
-        AddChecksSubcommand(app),
-        AddResultsSubcommand(app),
-        AddReportSubcommand(app),
-        AddSketchSubcommand(app),
-        AddPackageSubcommand(app),
-        AddUpgradeSubcommand(app),
-        AddNewSubcommand(app),
-        AddOptimizeSubcommand(app, RunInterruptibleSearch),
+        AddAnalyzeSubcommand(app),     AddCheckSubcommand(app),
+        AddChecksSubcommand(app),      AddResultsSubcommand(app),
+        AddReportSubcommand(app),      AddSketchSubcommand(app),
+        AddPackageSubcommand(app),     AddUpgradeSubcommand(app),
+        AddNewSubcommand(app),         AddOptimizeSubcommand(app, RunInterruptibleSearch),
         AddSensitivitySubcommand(app),
     };
 
