@@ -415,6 +415,7 @@ void MainWindow::BuildChecks() {
     statusBar()->addWidget(m_liveVerdict, 1);
     m_liveTimer = new QTimer(this);
     m_liveTimer->setSingleShot(true);
+    m_liveTimer->setTimerType(Qt::PreciseTimer);
     connect(m_liveTimer, &QTimer::timeout, this, [this] { ShowLiveVerdict(); });
     m_clock.start();
 }
@@ -444,7 +445,15 @@ void MainWindow::InputEdited() {
 }
 
 void MainWindow::ShowLiveVerdict() {
-    if (!m_program.input.visible || !m_liveSchedule.TakeDue(m_clock.elapsed())) {
+    if (!m_program.input.visible) {
+        return;
+    }
+    const std::int64_t now = m_clock.elapsed();
+    if (!m_liveSchedule.TakeDue(now)) {
+        // A timer may fire a little before its time: the verdict waits the rest.
+        if (const std::int64_t left = m_liveSchedule.TimeLeft(now); left > 0) {
+            m_liveTimer->start(static_cast<int>(left));
+        }
         return;
     }
     const LiveVerdict live =

@@ -68,3 +68,7 @@ bool LiveVerdictSchedule::TakeDue(std::int64_t nowMs) {
     m_dueAt.reset();
     return true;
 }
+
+std::int64_t LiveVerdictSchedule::TimeLeft(std::int64_t nowMs) const {
+    return m_dueAt && nowMs < *m_dueAt ? *m_dueAt - nowMs : 0;
+}

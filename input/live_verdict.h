@@ -39,6 +39,9 @@ class LiveVerdictSchedule {
     std::int64_t Edited(std::int64_t nowMs);
     // True once the time has come after the last edit; then nothing is due until the next edit.
     bool TakeDue(std::int64_t nowMs);
+    // The time still to wait for a verdict due later than now; 0 when it is due or none is.
+    // A timer that fires a little early waits this rest.
+    std::int64_t TimeLeft(std::int64_t nowMs) const;
 
   private:
     std::optional<std::int64_t> m_dueAt;

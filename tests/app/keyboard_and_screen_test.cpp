@@ -210,9 +210,8 @@ TEST(FoundInUse, FileDialogsShowTheNameSizeAndDateColumnsInFull) {
     auto* files = dialog.findChild<QTreeView*>("treeView");
     ASSERT_TRUE(files);
     // The folder is read in the background: wait until its three projects are listed.
-    for (int i = 0; i < 100 && files->model()->rowCount(files->rootIndex()) < 3; ++i) {
-        QTest::qWait(20);
-    }
+    static_cast<void>(
+        QTest::qWaitFor([&] { return files->model()->rowCount(files->rootIndex()) >= 3; }, 30000));
     ASSERT_EQ(files->model()->rowCount(files->rootIndex()), 3);
     QApplication::processEvents();
     EXPECT_GE(dialog.width(), 900);

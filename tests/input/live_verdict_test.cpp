@@ -77,6 +77,9 @@ TEST(LiveVerdict, IsDue150MillisecondsAfterTheLastEditAndOnce) {
     EXPECT_FALSE(schedule.TakeDue(1100));
     schedule.Edited(1100); // typing on puts it off
     EXPECT_FALSE(schedule.TakeDue(1249));
+    // A timer that fires a millisecond early waits the one left.
+    EXPECT_EQ(schedule.TimeLeft(1249), 1);
     EXPECT_TRUE(schedule.TakeDue(1250));
+    EXPECT_EQ(schedule.TimeLeft(1250), 0);
     EXPECT_FALSE(schedule.TakeDue(1400));
 }
