@@ -356,13 +356,26 @@ void MainWindow::Refresh() {
     }
     if (m_program.output.visible) {
         m_results->Refresh();
-        m_stack->setCurrentWidget(m_results);
+        ShowScreen(m_results);
     } else if (m_program.input.visible) {
-        m_stack->setCurrentWidget(m_input);
+        ShowScreen(m_input);
         m_input->Refresh();
     } else {
-        m_stack->setCurrentIndex(0);
+        ShowScreen(m_stack->widget(0));
     }
+}
+
+// Only the screen shown asks for room: the hidden screens' sizes are ignored, so that the wide
+// input pages do not keep a dock beside the results narrow.
+void MainWindow::ShowScreen(QWidget* screen) {
+    for (int i = 0; i < m_stack->count(); ++i) {
+        QWidget* page = m_stack->widget(i);
+        const QSizePolicy::Policy policy =
+            page == screen ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        page->setSizePolicy(policy, policy);
+    }
+    m_stack->setCurrentWidget(screen);
+    m_stack->updateGeometry();
 }
 
 void MainWindow::RunAnalysis() {
@@ -404,10 +417,15 @@ void MainWindow::BuildChecks() {
             Refresh();
         },
         this);
-    addDockWidget(Qt::RightDockWidgetArea, m_checksDock);
-    // Wide enough for the item, both numbers and the ratio beside the results.
-    resizeDocks({m_checksDock}, {660}, Qt::Horizontal);
+    // Under the results, the whole width of the window: every column of the table reads without
+    // scrolling sideways, and the results' tabs keep their width.
+    addDockWidget(Qt::BottomDockWidgetArea, m_checksDock);
     m_checksDock->hide();
+    connect(m_checksDock, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (visible && !m_checksDock->isFloating() && m_checksDock->height() < 240) {
+            resizeDocks({m_checksDock}, {300}, Qt::Vertical);
+        }
+    });
     m_strip->hide();
 
     m_liveVerdict = new QLabel(this);

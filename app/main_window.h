@@ -87,6 +87,7 @@ class MainWindow : public QMainWindow {
     // The check table of the last analysis and its views; the verdict of the values as typed.
     void BuildChecks();
     void RefreshChecks();
+    void ShowScreen(QWidget* screen);
     void InputEdited();
     void ShowLiveVerdict();
     ChecksPanel m_checksPanel;
