@@ -187,8 +187,14 @@ void MainWindow::BuildMenus() {
     screen->addAction(plan);
     m_actions["mnuPlan"] = plan;
     connect(plan, &QAction::toggled, this, [this](bool shown) {
-        if (shown) {
-            resizeDocks({m_planDock}, {width() / 2}, Qt::Horizontal);
+        if (shown && !m_planPlaced) {
+            // Beside the results' wide tab strip a docked plan would be a sliver: the first time
+            // it opens as a window of its own over the main window, large enough to read; its
+            // title bar docks it again.
+            m_planPlaced = true;
+            m_planDock->setFloating(true);
+            m_planDock->resize(width() * 2 / 3, height() * 3 / 4);
+            m_planDock->move(geometry().center() - m_planDock->rect().center());
         }
         Refresh();
     });

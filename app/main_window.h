@@ -80,6 +80,7 @@ class MainWindow : public QMainWindow {
     PrintView* m_print;
     // The plan of the analysed design, beside the results.
     QDockWidget* m_planDock;
+    bool m_planPlaced = false; // the plan has been opened once and given its place
     PlanPanel* m_plan;
     DesignSearchView* m_search;
     bool m_ending = false;
