@@ -19,6 +19,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QFontDatabase>
 #include <QPushButton>
 #include <QRadioButton>
@@ -121,12 +122,12 @@ int main(int argc, char** argv) {
                 Save(&window, folder + QString("/results-%1-%2.png").arg(tab + 1).arg(page + 1));
             }
         }
-        // The plan of the analysed design beside the results.
+        // The plan of the analysed design, in the window it opens in over the results.
         main->setCurrentIndex(0);
         window.Action("mnuPlan")->trigger();
         window.Refresh();
         QApplication::processEvents();
-        Save(&window, folder + "/results-plan.png");
+        Save(window.planDock(), folder + "/results-plan.png");
         window.Action("mnuPlan")->trigger();
         window.Refresh();
     }
